@@ -1,0 +1,19 @@
+#include "Proc/Settings/SettingsEffectZoom.h"
+
+#include "Proc/Settings/InitOrder.h"
+
+namespace Zorvan::Proc {
+
+const std::string SettingsEffectZoom::CLASS_ID ZORVAN_INIT_STRINGS = "$$EffectZoom$$";
+
+const std::string& SettingsEffectZoom::GetClassId() const
+{
+    return CLASS_ID;
+}
+
+std::unique_ptr<Settings> SettingsEffectZoom::Clone() const
+{
+    return std::make_unique<SettingsEffectZoom>(*this);
+}
+
+} // namespace Zorvan::Proc

@@ -1,0 +1,15 @@
+#pragma once
+#include "Proc/Settings/AIFrameGeneratorSettings.h"
+#include "Proc/Settings/Settings.h"
+
+namespace Zorvan::Proc {
+
+class ZORVAN_SETTINGS_EXPORT SettingsFilterFPSDoubler : private AIFrameGeneratorSettings, public Settings {
+public:
+    static const std::string CLASS_ID;
+
+    const std::string& GetClassId() const override;
+    std::unique_ptr<Settings> Clone() const override;
+};
+
+} // namespace Zorvan::Proc

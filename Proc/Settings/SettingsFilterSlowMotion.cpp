@@ -1,0 +1,19 @@
+#include "Proc/Settings/SettingsFilterSlowMotion.h"
+
+#include "Proc/Settings/InitOrder.h"
+
+namespace Zorvan::Proc {
+
+const std::string SettingsFilterSlowMotion::CLASS_ID ZORVAN_INIT_STRINGS = "FilterSlowMotion";
+
+const std::string& SettingsFilterSlowMotion::GetClassId() const
+{
+    return CLASS_ID;
+}
+
+std::unique_ptr<Settings> SettingsFilterSlowMotion::Clone() const
+{
+    return std::make_unique<SettingsFilterSlowMotion>(*this);
+}
+
+} // namespace Zorvan::Proc

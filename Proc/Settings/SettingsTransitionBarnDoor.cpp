@@ -1,0 +1,19 @@
+#include "Proc/Settings/SettingsTransitionBarnDoor.h"
+
+#include "Proc/Settings/InitOrder.h"
+
+namespace Zorvan::Proc {
+
+const std::string SettingsTransitionBarnDoor::CLASS_ID ZORVAN_INIT_STRINGS = "$$TransitionBarnDoor$$";
+
+const std::string& SettingsTransitionBarnDoor::GetClassId() const
+{
+    return CLASS_ID;
+}
+
+std::unique_ptr<Settings> SettingsTransitionBarnDoor::Clone() const
+{
+    return std::make_unique<SettingsTransitionBarnDoor>(*this);
+}
+
+} // namespace Zorvan::Proc

@@ -1,0 +1,14 @@
+#pragma once
+#include "Proc/Settings/Settings.h"
+
+namespace Zorvan::Proc {
+
+class ZORVAN_SETTINGS_EXPORT SettingsTransitionWaterbrush : public Settings {
+public:
+    static const std::string CLASS_ID;
+
+    const std::string& GetClassId() const override;
+    std::unique_ptr<Settings> Clone() const override;
+};
+
+} // namespace Zorvan::Proc
