@@ -1,0 +1,15 @@
+#include "Proc/Settings/SettingsEffectBlurGaussian.h"
+#include "catalog/CatalogFields.h"
+
+namespace Zorvan::CatalogDetail {
+
+void AddFieldsPart_1(FieldMap& fields)
+{
+    using Proc::SettingsEffectBlurGaussian;
+    fields["SettingsEffectBlurGaussian"] = {
+        Field<SettingsEffectBlurGaussian>("scale", &SettingsEffectBlurGaussian::GetScale),
+        Field<SettingsEffectBlurGaussian>("fast", &SettingsEffectBlurGaussian::GetFast),
+    };
+}
+
+} // namespace Zorvan::CatalogDetail
