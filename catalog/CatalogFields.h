@@ -37,8 +37,9 @@ SettingsCatalogField Field(std::string name, Getter getter)
 template <class C, class Convert>
 SettingsCatalogField FieldJson(std::string name, Convert convert)
 {
-    return {std::move(name),
-        [convert](const Proc::Settings& record) { return nlohmann::json(convert(dynamic_cast<const C&>(record))); }};
+    return {std::move(name), [convert](const Proc::Settings& record) {
+                return nlohmann::json(convert(dynamic_cast<const C&>(record)));
+            }};
 }
 
 void AddFieldsPart_1(FieldMap& fields);

@@ -22,8 +22,8 @@ struct SettingsCatalogField {
 struct SettingsCatalogEntry {
     std::string classId;
     std::string className;
-    std::string base;  // as Part 1.5 writes it: "Settings", "-", "SettingsFilterSpeedUp", ...
-    std::string group; // Analyzers, Audio, Effects, Filters, Transitions, Others
+    std::string base;            // as Part 1.5 writes it: "Settings", "-", "SettingsFilterSpeedUp", ...
+    std::string group;           // Analyzers, Audio, Effects, Filters, Transitions, Others
     bool hasVirtualTable = true; // false for the hyphen rows of Part 1.5
     bool ownIsEqualTo = false;   // E
     bool ownIsEmpty = false;     // M

@@ -16,18 +16,19 @@ class ZORVAN_SETTINGS_EXPORT EffectException : public ProcException {};
 class ZORVAN_SETTINGS_EXPORT AnalyzerException : public ProcException {};
 
 // Throwing form A (Part 1.3): description, call stack, throw location, in this order.
-[[noreturn]] ZORVAN_SETTINGS_EXPORT void ThrowSettings(const std::string& message,
-    const std::source_location& location = std::source_location::current());
-[[noreturn]] ZORVAN_SETTINGS_EXPORT void ThrowEffect(const std::string& message,
-    const std::source_location& location = std::source_location::current());
-[[noreturn]] ZORVAN_SETTINGS_EXPORT void ThrowAnalyzer(const std::string& message,
-    const std::source_location& location = std::source_location::current());
+[[noreturn]] ZORVAN_SETTINGS_EXPORT void
+ThrowSettings(const std::string& message, const std::source_location& location = std::source_location::current());
+[[noreturn]] ZORVAN_SETTINGS_EXPORT void
+ThrowEffect(const std::string& message, const std::source_location& location = std::source_location::current());
+[[noreturn]] ZORVAN_SETTINGS_EXPORT void
+ThrowAnalyzer(const std::string& message, const std::source_location& location = std::source_location::current());
 
 // Throwing form B (Part 1.3): the message, a newline and the call stack in what().
-[[noreturn]] ZORVAN_SETTINGS_EXPORT void ThrowInvalidArgument(const std::string& message,
-    const std::source_location& location = std::source_location::current());
-[[noreturn]] ZORVAN_SETTINGS_EXPORT void ThrowLogicError(const std::string& message,
-    const std::source_location& location = std::source_location::current());
+[[noreturn]] ZORVAN_SETTINGS_EXPORT void
+ThrowInvalidArgument(const std::string& message,
+                     const std::source_location& location = std::source_location::current());
+[[noreturn]] ZORVAN_SETTINGS_EXPORT void
+ThrowLogicError(const std::string& message, const std::source_location& location = std::source_location::current());
 
 } // namespace Zorvan::Proc
 
@@ -35,7 +36,7 @@ namespace Zorvan {
 
 // AddStack for exceptions derived from Zorvan::Exception: attaches TagCallStack.
 template <class E>
-    requires std::is_base_of_v<Zorvan::Exception, E>
+requires std::is_base_of_v<Zorvan::Exception, E>
 const E& AddStack(const E& e)
 {
     e << ErrorInfoCallStack(GetCallStack());
@@ -45,8 +46,7 @@ const E& AddStack(const E& e)
 // AddStack for std::logic_error and std::runtime_error children: a new E whose text
 // is e.what(), a newline and the call stack.
 template <class E>
-    requires(std::is_base_of_v<std::logic_error, E> || std::is_base_of_v<std::runtime_error, E>)
-E AddStack(const E& e)
+requires(std::is_base_of_v<std::logic_error, E> || std::is_base_of_v<std::runtime_error, E>) E AddStack(const E& e)
 {
     return E(std::string(e.what()) + "\n" + GetCallStack());
 }

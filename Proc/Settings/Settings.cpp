@@ -70,7 +70,7 @@ std::from_chars_result FromChars(const char* first, const char* last, double& va
 namespace Zorvan::Core::Utils {
 
 std::string ToString(const std::vector<std::string>& values, const std::string& separator,
-    const std::function<std::string(const std::string&)>& convert)
+                     const std::function<std::string(const std::string&)>& convert)
 {
     std::ostringstream stream;
     for (const auto& value : values) {
@@ -138,13 +138,13 @@ std::regex GetOptionRegex(std::string_view keyPattern, std::string_view valuePat
 {
     const std::string_view value = valuePattern.empty() ? kDefaultValuePattern : valuePattern;
     return std::regex(fmt::format("\\b({})=({})", keyPattern, value),
-        std::regex_constants::ECMAScript | std::regex_constants::icase);
+                      std::regex_constants::ECMAScript | std::regex_constants::icase);
 }
 
 std::string_view ViewOf(std::string_view options, const std::csub_match& group)
 {
     return options.substr(static_cast<std::size_t>(group.first - options.data()),
-        static_cast<std::size_t>(group.length()));
+                          static_cast<std::size_t>(group.length()));
 }
 
 // With the default value pattern a value that begins with a quote loses its first and last character.
@@ -205,7 +205,7 @@ bool NearlyEqualImpl(T a, T b)
 {
     const T difference = std::fabs(a - b);
     return difference <= std::fabs(a + b) * std::numeric_limits<T>::epsilon() ||
-        difference < std::numeric_limits<T>::min();
+           difference < std::numeric_limits<T>::min();
 }
 
 } // namespace
@@ -240,8 +240,8 @@ Settings::OptionsMap Settings::GetOptionsMap(std::string_view options, const std
     return result;
 }
 
-Settings::OptionsViewMap Settings::OptionsRegexSearch(
-    std::string_view options, std::string_view keys, std::string_view valuePattern)
+Settings::OptionsViewMap Settings::OptionsRegexSearch(std::string_view options, std::string_view keys,
+                                                      std::string_view valuePattern)
 {
     OptionsViewMap result;
     if (options.empty() || keys.empty()) {
@@ -263,8 +263,8 @@ Settings::OptionsViewMap Settings::OptionsRegexSearch(
     return result;
 }
 
-std::string_view Settings::OptionRegexSearch(
-    std::string_view options, std::string_view key, std::string_view valuePattern)
+std::string_view Settings::OptionRegexSearch(std::string_view options, std::string_view key,
+                                             std::string_view valuePattern)
 {
     if (options.empty() || key.empty()) {
         return {};
@@ -288,7 +288,7 @@ std::optional<T> Settings::GetOption(std::string_view options, std::string_view 
     if (!ConvertValue(value, result)) {
         // Form C of Part 1.3: thrown directly, no stack, no location.
         throw std::invalid_argument(fmt::format("The '{}' value of the '{}' option is not {}", value, key,
-            std::is_same_v<T, bool> ? "a boolean" : "a number"));
+                                                std::is_same_v<T, bool> ? "a boolean" : "a number"));
     }
     return result;
 }
@@ -296,14 +296,14 @@ std::optional<T> Settings::GetOption(std::string_view options, std::string_view 
 template std::optional<float> Settings::GetOption<float>(std::string_view, std::string_view, std::string_view);
 template std::optional<double> Settings::GetOption<double>(std::string_view, std::string_view, std::string_view);
 template std::optional<int> Settings::GetOption<int>(std::string_view, std::string_view, std::string_view);
-template std::optional<unsigned char> Settings::GetOption<unsigned char>(
-    std::string_view, std::string_view, std::string_view);
-template std::optional<unsigned short> Settings::GetOption<unsigned short>(
-    std::string_view, std::string_view, std::string_view);
-template std::optional<unsigned int> Settings::GetOption<unsigned int>(
-    std::string_view, std::string_view, std::string_view);
-template std::optional<unsigned long> Settings::GetOption<unsigned long>(
-    std::string_view, std::string_view, std::string_view);
+template std::optional<unsigned char> Settings::GetOption<unsigned char>(std::string_view, std::string_view,
+                                                                         std::string_view);
+template std::optional<unsigned short> Settings::GetOption<unsigned short>(std::string_view, std::string_view,
+                                                                           std::string_view);
+template std::optional<unsigned int> Settings::GetOption<unsigned int>(std::string_view, std::string_view,
+                                                                       std::string_view);
+template std::optional<unsigned long> Settings::GetOption<unsigned long>(std::string_view, std::string_view,
+                                                                         std::string_view);
 template std::optional<bool> Settings::GetOption<bool>(std::string_view, std::string_view, std::string_view);
 
 bool NearlyEqual(double a, double b)

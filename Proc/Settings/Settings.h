@@ -27,9 +27,9 @@ struct ZORVAN_SETTINGS_EXPORT CaseInsensitiveEqual {
 
 // Part 1.2: strtof/strtod behind a std::from_chars_result-shaped result; the format is ignored.
 ZORVAN_SETTINGS_EXPORT std::from_chars_result FromChars(const char* first, const char* last, float& value,
-    std::chars_format format = std::chars_format::general);
+                                                        std::chars_format format = std::chars_format::general);
 ZORVAN_SETTINGS_EXPORT std::from_chars_result FromChars(const char* first, const char* last, double& value,
-    std::chars_format format = std::chars_format::general);
+                                                        std::chars_format format = std::chars_format::general);
 
 } // namespace Zorvan
 
@@ -37,7 +37,7 @@ namespace Zorvan::Core::Utils {
 
 // Part 1.2: each converted element followed by the separator, the last separator removed.
 ZORVAN_SETTINGS_EXPORT std::string ToString(const std::vector<std::string>& values, const std::string& separator,
-    const std::function<std::string(const std::string&)>& convert = {});
+                                            const std::function<std::string(const std::string&)>& convert = {});
 
 // Part 1.2: ToNumber<int> only; an optional '-', then decimal digits, within int.
 template <typename T>
@@ -56,8 +56,7 @@ class ZORVAN_SETTINGS_EXPORT Settings {
 public:
     // The string map of GetOptionsMap and the view map of OptionsRegexSearch (Part 1.2).
     using OptionsMap = std::unordered_map<std::string, std::string, CaseInsensitiveHash, CaseInsensitiveEqual>;
-    using OptionsViewMap =
-        std::unordered_map<std::string, std::string_view, CaseInsensitiveHash, CaseInsensitiveEqual>;
+    using OptionsViewMap = std::unordered_map<std::string, std::string_view, CaseInsensitiveHash, CaseInsensitiveEqual>;
 
     // Part 1.1: the virtual operations in their declared order.
     virtual ~Settings();
@@ -69,10 +68,10 @@ public:
 
     // Part 1.2: the static option functions.
     static OptionsMap GetOptionsMap(std::string_view options, const std::vector<std::string>& keys);
-    static OptionsViewMap OptionsRegexSearch(
-        std::string_view options, std::string_view keys, std::string_view valuePattern);
-    static std::string_view OptionRegexSearch(
-        std::string_view options, std::string_view key, std::string_view valuePattern);
+    static OptionsViewMap OptionsRegexSearch(std::string_view options, std::string_view keys,
+                                             std::string_view valuePattern);
+    static std::string_view OptionRegexSearch(std::string_view options, std::string_view key,
+                                              std::string_view valuePattern);
     // Defined for float, double, int, unsigned char, unsigned short, unsigned int,
     // unsigned long and bool.
     template <typename T>

@@ -4,7 +4,8 @@
 
 namespace Zorvan::Proc {
 
-const std::string SettingsAnalyzerVideoTrackObjectBase::CLASS_ID ZORVAN_INIT_STRINGS = "SettingsAnalyzerVideoTrackObject";
+const std::string SettingsAnalyzerVideoTrackObjectBase::CLASS_ID ZORVAN_INIT_STRINGS =
+    "SettingsAnalyzerVideoTrackObject";
 
 const std::string& SettingsAnalyzerVideoTrackObjectBase::GetClassId() const
 {

@@ -4,7 +4,8 @@
 
 namespace Zorvan::Proc {
 
-const std::string SettingsAnalyzerVideoTrackObjectOnnxRT::CLASS_ID ZORVAN_INIT_STRINGS = "SettingsAnalyzerVideoTrackObjectOnnxRT";
+const std::string SettingsAnalyzerVideoTrackObjectOnnxRT::CLASS_ID ZORVAN_INIT_STRINGS =
+    "SettingsAnalyzerVideoTrackObjectOnnxRT";
 
 const std::string& SettingsAnalyzerVideoTrackObjectOnnxRT::GetClassId() const
 {

@@ -4,7 +4,8 @@
 
 namespace Zorvan::Proc {
 
-const std::string SettingsAnalyzerVideoTrackObjectOpenCV::CLASS_ID ZORVAN_INIT_STRINGS = "SettingsAnalyzerVideoTrackObjectOpenCV";
+const std::string SettingsAnalyzerVideoTrackObjectOpenCV::CLASS_ID ZORVAN_INIT_STRINGS =
+    "SettingsAnalyzerVideoTrackObjectOpenCV";
 
 const std::string& SettingsAnalyzerVideoTrackObjectOpenCV::GetClassId() const
 {

@@ -4,7 +4,8 @@
 
 namespace Zorvan::Proc {
 
-const std::string SettingsEffectDenoiseOvercompleteWavelet::CLASS_ID ZORVAN_INIT_STRINGS = "EFFECT_DENOISE_OVERCOMPLETE_WAVELET";
+const std::string SettingsEffectDenoiseOvercompleteWavelet::CLASS_ID ZORVAN_INIT_STRINGS =
+    "EFFECT_DENOISE_OVERCOMPLETE_WAVELET";
 
 const std::string& SettingsEffectDenoiseOvercompleteWavelet::GetClassId() const
 {

@@ -4,7 +4,8 @@
 
 namespace Zorvan::Proc {
 
-const std::string SettingsFilterBlurTransparentBorder::CLASS_ID ZORVAN_INIT_STRINGS = "SettingsFilterBlurTransparentBorder";
+const std::string SettingsFilterBlurTransparentBorder::CLASS_ID ZORVAN_INIT_STRINGS =
+    "SettingsFilterBlurTransparentBorder";
 
 const std::string& SettingsFilterBlurTransparentBorder::GetClassId() const
 {

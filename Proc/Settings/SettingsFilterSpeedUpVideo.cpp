@@ -48,8 +48,8 @@ void SettingsFilterSpeedUpVideo::Deserialize(const std::string& options)
 bool SettingsFilterSpeedUpVideo::operator==(const SettingsFilterSpeedUpVideo& other) const
 {
     const bool sameRate = constantFPS.has_value() == other.constantFPS.has_value() &&
-        (!constantFPS || (constantFPS->numerator() == other.constantFPS->numerator() &&
-                             constantFPS->denominator() == other.constantFPS->denominator()));
+                          (!constantFPS || (constantFPS->numerator() == other.constantFPS->numerator() &&
+                                            constantFPS->denominator() == other.constantFPS->denominator()));
     return GetSpeedFactor() == other.GetSpeedFactor() && sameRate && useSeek == other.useSeek;
 }
 
