@@ -1,8 +1,13 @@
 #pragma once
 // The umbrella header: every public header of the library. Written by scripts/gen-all-settings.sh.
 #include "Proc/Settings/AIFrameGeneratorSettings.h"
+#include "Proc/Settings/CropInfo.h"
 #include "Proc/Settings/Export.h"
+#include "Proc/Settings/ImageHandler.h"
+#include "Proc/Settings/NeuralNetworkModelInfo.h"
 #include "Proc/Settings/ProcException.h"
+#include "Proc/Settings/RelativePoint.h"
+#include "Proc/Settings/Saturate.h"
 #include "Proc/Settings/Settings.h"
 #include "Proc/Settings/SettingsAnalyzerAudioDetectShift.h"
 #include "Proc/Settings/SettingsAnalyzerSilenceDetector.h"
@@ -224,3 +229,4 @@
 #include "Proc/Settings/SettingsTransitionZoomBlur.h"
 #include "Proc/Settings/SettingsTwoPassEncoding.h"
 #include "Proc/Settings/SettingsVideoDecoder.h"
+#include "Proc/Settings/Types.h"
