@@ -44,5 +44,6 @@ SettingsCatalogField FieldJson(std::string name, Convert convert)
 
 void AddFieldsPart_1(FieldMap& fields);
 void AddFieldsPart_2_6(FieldMap& fields);
+void AddFieldsPart_6_4(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

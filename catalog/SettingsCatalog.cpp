@@ -292,6 +292,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::FieldMap fields;
     CatalogDetail::AddFieldsPart_1(fields);
     CatalogDetail::AddFieldsPart_2_6(fields);
+    CatalogDetail::AddFieldsPart_6_4(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);

@@ -8,6 +8,7 @@
 
 #include "Proc/Settings/SettingsAudioGenerator.h"
 #include "Proc/Settings/SettingsEffectBlurGaussian.h"
+#include "Proc/Settings/SettingsEffectBokehBlur.h"
 #include "Proc/Settings/SettingsFilterAudioVolume.h"
 #include "Proc/Settings/SettingsFilterSpeedUp.h"
 #include "Proc/Settings/SettingsFilterSpeedUpVideo.h"
@@ -109,6 +110,20 @@ TEST(ClassIdentity, CloneOfADerivedRecordThroughTheBaseKeepsTheDerivedClass)
     EXPECT_EQ(typeid(*clone), typeid(SettingsFilterSpeedUpVideo));
     EXPECT_TRUE(video.IsEqualTo(*clone));
     EXPECT_TRUE(clone->IsEqualTo(video));
+}
+
+TEST(ClassIdentity, CloneSharesTheObjectsOfSharedPointerMembers)
+{
+    SettingsEffectBokehBlur bokeh;
+    const auto image = std::make_shared<const ImageHandler>(2, 1, std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8});
+    bokeh.SetImage(image);
+    bokeh.SetParams(3.0, 0.5, 0.25);
+    const std::unique_ptr<Settings> clone = bokeh.Clone();
+    const auto& copy = dynamic_cast<const SettingsEffectBokehBlur&>(*clone);
+    EXPECT_EQ(copy.GetImage().get(), image.get());
+    EXPECT_EQ(image.use_count(), 3); // the test, the record and its clone
+    EXPECT_EQ(copy.GetSize(), 3.0);
+    EXPECT_EQ(copy.GetHdrBorder(), 0.25);
 }
 
 TEST(BlurGaussian, ScaleWinsAndFastIsNotLookedAtWhenBothAreGiven)

@@ -505,7 +505,6 @@ const std::set<std::string> kNotLandedYet{
     "SettingsEffectAutoWhiteBalance",
     "SettingsEffectBalanceChroma",
     "SettingsEffectBlur",
-    "SettingsEffectBokehBlur",
     "SettingsEffectBorder",
     "SettingsEffectCameraShake",
     "SettingsEffectChannelMixer",

@@ -16,4 +16,67 @@ std::unique_ptr<Settings> SettingsEffectBokehBlur::Clone() const
     return std::make_unique<SettingsEffectBokehBlur>(*this);
 }
 
+void SettingsEffectBokehBlur::Deserialize(const std::string& options)
+{
+    if (options.empty()) {
+        return;
+    }
+    // Part 6.4: stored straight into the fields, in key order.
+    const auto map = GetOptionsMap(options, {"size", "exposure", "hdrborder", "intensity"});
+    if (const auto found = map.find("size"); found != map.end()) {
+        size = std::stod(found->second);
+    }
+    if (const auto found = map.find("exposure"); found != map.end()) {
+        exposure = std::stod(found->second);
+    }
+    if (const auto found = map.find("hdrborder"); found != map.end()) {
+        hdrBorder = std::stod(found->second);
+    }
+    if (const auto found = map.find("intensity"); found != map.end()) {
+        intensity = std::stof(found->second);
+    }
+}
+
+void SettingsEffectBokehBlur::SetParams(double newSize, double newExposure, double newHdrBorder)
+{
+    size = newSize;
+    exposure = newExposure;
+    hdrBorder = newHdrBorder;
+}
+
+void SettingsEffectBokehBlur::SetIntensity(float value)
+{
+    intensity = value;
+}
+
+void SettingsEffectBokehBlur::SetImage(const std::shared_ptr<const ImageHandler>& newImage)
+{
+    image = newImage ? newImage : std::make_shared<const ImageHandler>();
+}
+
+const std::shared_ptr<const ImageHandler>& SettingsEffectBokehBlur::GetImage() const
+{
+    return image;
+}
+
+double SettingsEffectBokehBlur::GetSize() const
+{
+    return size;
+}
+
+double SettingsEffectBokehBlur::GetExposure() const
+{
+    return exposure;
+}
+
+double SettingsEffectBokehBlur::GetHdrBorder() const
+{
+    return hdrBorder;
+}
+
+float SettingsEffectBokehBlur::GetIntensity() const
+{
+    return intensity;
+}
+
 } // namespace Zorvan::Proc
