@@ -5,24 +5,25 @@ set -euo pipefail
 lib="$1"
 symbols=$(nm -D --defined-only -C "$lib" | cut -d' ' -f2-)
 fail=0
-foreign=$(printf '%s\n' "$symbols" | cut -d' ' -f2- |
+# Here-strings rather than pipes: under pipefail an early-exiting grep -q would fail the pipe.
+foreign=$(cut -d' ' -f2- <<<"$symbols" |
   grep -Ev '^(Zorvan::|typeinfo for Zorvan::|typeinfo name for Zorvan::|vtable for Zorvan::|VTT for Zorvan::|(non-)?virtual thunk to Zorvan::)' || true)
 if [ -n "$foreign" ]; then
   echo "FAIL: symbols exported that are not the library's own:"; printf '%s\n' "$foreign" | head -20; fail=1
 fi
-if printf '%s\n' "$symbols" | grep -q 'anonymous namespace'; then
+if grep -q 'anonymous namespace' <<<"$symbols"; then
   echo "FAIL: implementation details (anonymous namespace) are exported"; fail=1
 fi
-if printf '%s\n' "$symbols" | grep -q 'GetOptionRegex'; then
+if grep -q 'GetOptionRegex' <<<"$symbols"; then
   echo "FAIL: GetOptionRegex, private to the implementation, is exported"; fail=1
 fi
-class_ids=$(printf '%s\n' "$symbols" | grep -Ec '^[BDR] Zorvan::Proc::[A-Za-z0-9]+::CLASS_ID\[abi:cxx11\]$' || true)
+class_ids=$(grep -Ec '^[BDR] Zorvan::Proc::[A-Za-z0-9]+::CLASS_ID\[abi:cxx11\]$' <<<"$symbols" || true)
 if [ "$class_ids" -ne 220 ]; then
   echo "FAIL: expected 220 CLASS_ID data symbols, found $class_ids"; fail=1
 fi
 for needed in 'T Zorvan::Proc::Settings::GetOptionsMap' 'V typeinfo for Zorvan::Proc::SettingsException' \
               'V vtable for Zorvan::Proc::SettingsEffectBlurGaussian' 'T Zorvan::Proc::ThrowSettings'; do
-  if ! printf '%s\n' "$symbols" | grep -qF "$needed"; then
+  if ! grep -qF "$needed" <<<"$symbols"; then
     echo "FAIL: '$needed' is not exported"; fail=1
   fi
 done
