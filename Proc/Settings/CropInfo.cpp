@@ -30,6 +30,46 @@ std::ostream& WriteRect(std::ostream& stream, const Rect& rect)
     return stream;
 }
 
+// The operations CropInfo and CropInfoF share (Part 1.4), written once.
+template <typename Rect>
+Rect& AlignRect(Rect& rect, const Rect& other)
+{
+    if (other.left != other.right) {
+        rect.left = std::min(rect.left, other.left);
+        rect.right = std::max(rect.right, other.right);
+    }
+    if (other.top != other.bottom) {
+        rect.top = std::min(rect.top, other.top);
+        rect.bottom = std::max(rect.bottom, other.bottom);
+    }
+    return rect;
+}
+
+// "+ 1" in the field's own type: unsigned for CropInfo (wrapping at 0xFFFFFFFF), double for CropInfoF.
+template <typename Rect, typename T>
+Rect& ApartRect(Rect& rect, T x, T y)
+{
+    rect.left = std::min(rect.left, x);
+    rect.right = std::max(rect.right, static_cast<T>(x + 1));
+    rect.top = std::min(rect.top, y);
+    rect.bottom = std::max(rect.bottom, static_cast<T>(y + 1));
+    return rect;
+}
+
+template <typename Rect>
+Rect UnionRect(const Rect& a, const Rect& b)
+{
+    return Rect{std::min(a.left, b.left), std::max(a.right, b.right), std::min(a.top, b.top),
+                std::max(a.bottom, b.bottom)};
+}
+
+template <typename Rect>
+Rect IntersectionRect(const Rect& a, const Rect& b)
+{
+    return Rect{std::max(a.left, b.left), std::min(a.right, b.right), std::max(a.top, b.top),
+                std::min(a.bottom, b.bottom)};
+}
+
 } // namespace
 
 // --- CropInfo ---------------------------------------------------------------------------
@@ -42,36 +82,22 @@ std::uint32_t CropInfo::Diff(const CropInfo& other) const
 
 CropInfo& CropInfo::Align(const CropInfo& other)
 {
-    if (other.left != other.right) {
-        left = std::min(left, other.left);
-        right = std::max(right, other.right);
-    }
-    if (other.top != other.bottom) {
-        top = std::min(top, other.top);
-        bottom = std::max(bottom, other.bottom);
-    }
-    return *this;
+    return AlignRect(*this, other);
 }
 
 CropInfo& CropInfo::Apart(unsigned int x, unsigned int y)
 {
-    left = std::min<std::uint32_t>(left, x);
-    right = std::max<std::uint32_t>(right, x + 1U);
-    top = std::min<std::uint32_t>(top, y);
-    bottom = std::max<std::uint32_t>(bottom, y + 1U);
-    return *this;
+    return ApartRect<CropInfo, std::uint32_t>(*this, x, y);
 }
 
 CropInfo CropInfo::Union(const CropInfo& other) const
 {
-    return CropInfo{std::min(left, other.left), std::max(right, other.right), std::min(top, other.top),
-                    std::max(bottom, other.bottom)};
+    return UnionRect(*this, other);
 }
 
 CropInfo CropInfo::Intersection(const CropInfo& other) const
 {
-    return CropInfo{std::max(left, other.left), std::min(right, other.right), std::max(top, other.top),
-                    std::min(bottom, other.bottom)};
+    return IntersectionRect(*this, other);
 }
 
 std::ostream& operator<<(std::ostream& stream, const CropInfo& rect)
@@ -89,36 +115,22 @@ double CropInfoF::Diff(const CropInfoF& other) const
 
 CropInfoF& CropInfoF::Align(const CropInfoF& other)
 {
-    if (other.left != other.right) {
-        left = std::min(left, other.left);
-        right = std::max(right, other.right);
-    }
-    if (other.top != other.bottom) {
-        top = std::min(top, other.top);
-        bottom = std::max(bottom, other.bottom);
-    }
-    return *this;
+    return AlignRect(*this, other);
 }
 
 CropInfoF& CropInfoF::Apart(double x, double y)
 {
-    left = std::min(left, x);
-    right = std::max(right, x + 1.0);
-    top = std::min(top, y);
-    bottom = std::max(bottom, y + 1.0);
-    return *this;
+    return ApartRect(*this, x, y);
 }
 
 CropInfoF CropInfoF::Union(const CropInfoF& other) const
 {
-    return CropInfoF{std::min(left, other.left), std::max(right, other.right), std::min(top, other.top),
-                     std::max(bottom, other.bottom)};
+    return UnionRect(*this, other);
 }
 
 CropInfoF CropInfoF::Intersection(const CropInfoF& other) const
 {
-    return CropInfoF{std::max(left, other.left), std::min(right, other.right), std::max(top, other.top),
-                     std::min(bottom, other.bottom)};
+    return IntersectionRect(*this, other);
 }
 
 bool CropInfoF::operator==(const CropInfoF& other) const
