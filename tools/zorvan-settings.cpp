@@ -8,78 +8,27 @@
 #include <exception>
 #include <fstream>
 #include <iostream>
-#include <regex>
 #include <stdexcept>
 #include <string>
-#include <typeinfo>
 #include <vector>
 
 #include <CLI/CLI.hpp>
-#include <boost/exception/get_error_info.hpp>
-#include <boost/rational.hpp>
 #include <nlohmann/json.hpp>
 
-#include "Proc/Settings/ProcException.h"
 #include "catalog/SettingsCatalog.h"
+#include "tools/Failure.h"
 
 namespace {
 
 using Zorvan::SettingsCatalog;
 using Zorvan::SettingsCatalogEntry;
+using ZorvanTool::DescribeCurrentException;
+using ZorvanTool::Failure;
+using ZorvanTool::FirstLine;
 using Json = nlohmann::ordered_json;
 
 constexpr int exitFailure = 1;
 constexpr int exitUnknownClass = 2;
-
-struct Failure {
-    std::string exception;   // the exact class name
-    std::string description; // TagDescription, or what() up to its first newline
-};
-
-std::string FirstLine(const char* text)
-{
-    const std::string all(text);
-    return all.substr(0, all.find('\n'));
-}
-
-std::string Description(const Zorvan::Exception& e)
-{
-    const std::string* text = boost::get_error_info<Zorvan::ErrorInfoDescription>(e);
-    return text != nullptr ? *text : std::string();
-}
-
-// Names the exception in flight, most derived classes first.
-Failure DescribeCurrentException()
-{
-    using namespace Zorvan::Proc;
-    try {
-        throw;
-    } catch (const SettingsException& e) {
-        return {"SettingsException", Description(e)};
-    } catch (const EffectException& e) {
-        return {"EffectException", Description(e)};
-    } catch (const AnalyzerException& e) {
-        return {"AnalyzerException", Description(e)};
-    } catch (const ProcException& e) {
-        return {"ProcException", Description(e)};
-    } catch (const std::invalid_argument& e) {
-        return {"std::invalid_argument", FirstLine(e.what())};
-    } catch (const std::out_of_range& e) {
-        return {"std::out_of_range", FirstLine(e.what())};
-    } catch (const boost::bad_rational& e) { // a std::domain_error, hence before std::logic_error
-        return {"boost::bad_rational", FirstLine(e.what())};
-    } catch (const std::logic_error& e) {
-        return {"std::logic_error", FirstLine(e.what())};
-    } catch (const std::bad_cast& e) {
-        return {"std::bad_cast", FirstLine(e.what())};
-    } catch (const std::regex_error& e) {
-        return {"std::regex_error", FirstLine(e.what())};
-    } catch (const std::exception& e) {
-        return {"std::exception", FirstLine(e.what())};
-    } catch (...) {
-        return {"unknown", ""};
-    }
-}
 
 int List(bool asJson)
 {
