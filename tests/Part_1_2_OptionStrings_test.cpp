@@ -759,6 +759,22 @@ TEST(Part12ToNumber, ReadsOnlyTheViewNotTheTextBehindIt)
     EXPECT_EQ(value, 12);
 }
 
+// ToNumber<unsigned int> (ours, Part 2.1's whole unsigned 32-bit numbers): the rule of
+// GetOption<unsigned int>, and a failure leaves the value alone.
+TEST(Part12ToNumber, UnsignedIntAcceptsDigitsOnlyWithinUnsignedInt)
+{
+    unsigned int value = 7;
+    EXPECT_TRUE(Zorvan::Core::Utils::ToNumber<unsigned int>("0004294967295", value));
+    EXPECT_EQ(value, 4294967295U);
+    EXPECT_TRUE(Zorvan::Core::Utils::ToNumber<unsigned int>("0", value));
+    EXPECT_EQ(value, 0U);
+    value = 7;
+    for (const char* bad : {"", "4294967296", "-1", "+1", " 1", "1 ", "1x", "0x10"}) {
+        EXPECT_FALSE(Zorvan::Core::Utils::ToNumber<unsigned int>(bad, value)) << bad;
+        EXPECT_EQ(value, 7U) << bad;
+    }
+}
+
 // ===================================================================================
 // ToString
 // ===================================================================================

@@ -1,8 +1,8 @@
 #include "Proc/Settings/RelativePoint.h"
 
 #include <algorithm>
-#include <limits>
 
+#include "Proc/Settings/Arithmetic.h"
 #include "Proc/Settings/Saturate.h"
 
 namespace Zorvan::Proc {
@@ -35,20 +35,6 @@ bool LookUp(RelativePoint::Centers center, double& x, double& y)
         return true;
     }
     return false;
-}
-
-// Truncation toward zero into 32-bit unsigned, saturating at both limits; not-a-number
-// gives 0 (as the float-to-unsigned conversion of 64-bit Arm does).
-unsigned int TruncateSaturated(double value)
-{
-    constexpr double limit = 4294967296.0; // 2^32
-    if (!(value > 0.0)) {
-        return 0U;
-    }
-    if (value >= limit) {
-        return std::numeric_limits<unsigned int>::max();
-    }
-    return static_cast<unsigned int>(value);
 }
 
 unsigned int PixelPosition(double relative, unsigned int size)

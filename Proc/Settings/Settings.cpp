@@ -69,6 +69,32 @@ std::from_chars_result FromChars(const char* first, const char* last, double& va
 
 namespace Zorvan::Core::Utils {
 
+namespace {
+
+// Decimal digits only, all of the text, no sign, leading zeros allowed, within T.
+template <typename T>
+bool ConvertUnsigned(std::string_view text, T& result)
+{
+    if (text.empty()) {
+        return false;
+    }
+    unsigned long long value = 0;
+    for (const char c : text) {
+        if (c < '0' || c > '9') {
+            return false;
+        }
+        const unsigned digit = static_cast<unsigned>(c - '0');
+        if (value > (std::numeric_limits<T>::max() - digit) / 10) {
+            return false;
+        }
+        value = value * 10 + digit;
+    }
+    result = static_cast<T>(value);
+    return true;
+}
+
+} // namespace
+
 std::string ToString(const std::vector<std::string>& values, const std::string& separator,
                      const std::function<std::string(const std::string&)>& convert)
 {
@@ -115,6 +141,12 @@ bool ToNumber<int>(std::string_view text, int& value)
     return true;
 }
 
+template <>
+bool ToNumber<unsigned int>(std::string_view text, unsigned int& value)
+{
+    return ConvertUnsigned(text, value);
+}
+
 void SplitString(std::vector<std::string>& pieces, const std::string& text, char delimiter)
 {
     std::istringstream stream(text);
@@ -157,27 +189,6 @@ std::string_view StripQuotesIfDefault(std::string_view value, std::string_view v
 }
 
 template <typename T>
-bool ConvertUnsigned(std::string_view text, T& result)
-{
-    if (text.empty()) {
-        return false;
-    }
-    unsigned long long value = 0;
-    for (const char c : text) {
-        if (c < '0' || c > '9') {
-            return false;
-        }
-        const unsigned digit = static_cast<unsigned>(c - '0');
-        if (value > (std::numeric_limits<T>::max() - digit) / 10) {
-            return false;
-        }
-        value = value * 10 + digit;
-    }
-    result = static_cast<T>(value);
-    return true;
-}
-
-template <typename T>
 bool ConvertValue(std::string_view text, T& result)
 {
     if constexpr (std::is_same_v<T, bool>) {
@@ -196,7 +207,7 @@ bool ConvertValue(std::string_view text, T& result)
     } else if constexpr (std::is_same_v<T, int>) {
         return Core::Utils::ToNumber<int>(text, result);
     } else {
-        return ConvertUnsigned(text, result);
+        return Core::Utils::ConvertUnsigned(text, result);
     }
 }
 

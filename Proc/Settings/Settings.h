@@ -39,11 +39,15 @@ namespace Zorvan::Core::Utils {
 ZORVAN_SETTINGS_EXPORT std::string ToString(const std::vector<std::string>& values, const std::string& separator,
                                             const std::function<std::string(const std::string&)>& convert = {});
 
-// Part 1.2: ToNumber<int> only; an optional '-', then decimal digits, within int.
+// Part 1.2: ToNumber<int>: an optional '-', then decimal digits, within int.
+// ToNumber<unsigned int> (ours, for the whole unsigned 32-bit numbers of Part 2.1): decimal
+// digits only, no sign, leading zeros allowed, within unsigned int; the rule of GetOption<unsigned int>.
 template <typename T>
 bool ToNumber(std::string_view text, T& value);
 template <>
 ZORVAN_SETTINGS_EXPORT bool ToNumber<int>(std::string_view text, int& value);
+template <>
+ZORVAN_SETTINGS_EXPORT bool ToNumber<unsigned int>(std::string_view text, unsigned int& value);
 
 // Part 1.2: pieces of the text up to each delimiter, read through a string stream.
 ZORVAN_SETTINGS_EXPORT void SplitString(std::vector<std::string>& pieces, const std::string& text, char delimiter);

@@ -8,7 +8,7 @@ fail=0
 # Here-strings rather than pipes: under pipefail an early-exiting grep -q would fail the pipe.
 foreign=$(cut -d' ' -f2- <<<"$symbols" |
   grep -Ev '^(Zorvan::|typeinfo for Zorvan::|typeinfo name for Zorvan::|vtable for Zorvan::|VTT for Zorvan::|(non-)?virtual thunk to Zorvan::)' |
-  grep -Ev '^(std::optional<[a-z ]+> Zorvan::Proc::Settings::GetOption<[a-z ]+>|bool Zorvan::Core::Utils::ToNumber<int>)\(' || true)
+  grep -Ev '^(std::optional<[a-z ]+> Zorvan::Proc::Settings::GetOption<[a-z ]+>|bool Zorvan::Core::Utils::ToNumber<(int|unsigned int)>)\(' || true)
 if [ -n "$foreign" ]; then
   echo "FAIL: symbols exported that are not the library's own:"; printf '%s\n' "$foreign" | head -20; fail=1
 fi
@@ -26,7 +26,7 @@ for needed in 'T Zorvan::Proc::Settings::GetOptionsMap' 'V typeinfo for Zorvan::
               'V vtable for Zorvan::Proc::SettingsEffectBlurGaussian' 'T Zorvan::Proc::ThrowSettings' \
               'std::optional<bool> Zorvan::Proc::Settings::GetOption<bool>(' \
               'std::optional<unsigned long> Zorvan::Proc::Settings::GetOption<unsigned long>(' \
-              'T bool Zorvan::Core::Utils::ToNumber<int>('; do
+              'T bool Zorvan::Core::Utils::ToNumber<int>(' 'T bool Zorvan::Core::Utils::ToNumber<unsigned int>('; do
   if ! grep -qF "$needed" <<<"$symbols"; then
     echo "FAIL: '$needed' is not exported"; fail=1
   fi
