@@ -43,6 +43,8 @@ SettingsCatalogField FieldJson(std::string name, Convert convert)
 }
 
 void AddFieldsPart_1(FieldMap& fields);
+void AddFieldsPart_2_1(FieldMap& fields);
+void AddFieldsPart_2_2(FieldMap& fields);
 void AddFieldsPart_2_6(FieldMap& fields);
 void AddFieldsPart_6_4(FieldMap& fields);
 

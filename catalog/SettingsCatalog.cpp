@@ -291,6 +291,8 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     };
     CatalogDetail::FieldMap fields;
     CatalogDetail::AddFieldsPart_1(fields);
+    CatalogDetail::AddFieldsPart_2_1(fields);
+    CatalogDetail::AddFieldsPart_2_2(fields);
     CatalogDetail::AddFieldsPart_2_6(fields);
     CatalogDetail::AddFieldsPart_6_4(fields);
     for (auto& entry : entries) {

@@ -578,7 +578,6 @@ const std::set<std::string> kNotLandedYet{
     "SettingsFilterAudioVolume",
     "SettingsFilterBitStream",
     "SettingsFilterBlurTransparentBorder",
-    "SettingsFilterCutController",
     "SettingsFilterDurationTrimmer",
     "SettingsFilterFPSDoubler",
     "SettingsFilterFrameRate",
@@ -630,7 +629,6 @@ const std::set<std::string> kNotLandedYet{
     "SettingsTransitionZoom",
     "SettingsColorSpaceConverter",
     "SettingsDeinterlace",
-    "SettingsResizer",
     "SettingsVideoDecoder",
 };
 

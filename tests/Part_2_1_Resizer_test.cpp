@@ -13,6 +13,7 @@
 #include "Proc/Settings/SettingsFilterSpeedUp.h"
 #include "Proc/Settings/SettingsResizer.h"
 #include "TestSupport.h"
+#include "catalog/SettingsCatalog.h"
 
 using namespace Zorvan::Proc;
 using Zorvan::Conf::FrameInfo;
@@ -818,4 +819,20 @@ TEST(Resizer, CloneCopiesEveryField)
     EXPECT_EQ(copy.GetModelChannels(), 4U);
     EXPECT_EQ(copy.GetModel().path, "m");
     EXPECT_EQ(copy.GetResizeMethod(), ResizeMethods::Gauss);
+}
+
+TEST(Resizer, CatalogueReadsEveryFieldInDeclaredOrder)
+{
+    const auto* entry = Zorvan::SettingsCatalog::Find("$$RESIZE$$");
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->Own(), "ED");
+    SettingsResizer resizer;
+    resizer.Deserialize(
+        "640x480:aspect=4x3:impl=z:size_mode=Custom:custom_mode=Crop:resize_method=spline:nnm_type=1:nnm_channels=3");
+    EXPECT_EQ(entry->FieldsToJson(resizer).dump(),
+              R"({"implName":"z","crop":{"bottom":0,"left":0,"right":0,"top":0},"reservedInteger":0,"maxWidth":0,)"
+              R"("maxHeight":0,"reservedInteger2":0,"reservedInteger3":0,"sizeMode":4,"customMode":4,)"
+              R"("customFrame":{"height":480,"parDenominator":3,"parNumerator":4,"width":640},"scaleFactor":1.0,)"
+              R"("oddWidthAllowed":true,"oddHeightAllowed":true,"premultiplied":false,"resizeMethod":10,)"
+              R"("model":{"binaryDataSize":0,"executorType":1,"path":""},"modelChannels":3})");
 }

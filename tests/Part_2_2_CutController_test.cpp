@@ -12,6 +12,7 @@
 #include "Proc/Settings/SettingsFilterCutController.h"
 #include "Proc/Settings/SettingsFilterSpeedUp.h"
 #include "TestSupport.h"
+#include "catalog/SettingsCatalog.h"
 
 using namespace Zorvan::Proc;
 using ZorvanTest::FormADescription;
@@ -696,4 +697,17 @@ TEST(CutController, IsEmptyIsTheBaseOneAndAlwaysFalse)
     CutControllerAccess empty;
     empty.SetRawIntervals({});
     EXPECT_FALSE(empty.IsEmpty());
+}
+
+TEST(CutController, CatalogueListsTheIntervalsAsAJsonList)
+{
+    const auto* entry = Zorvan::SettingsCatalog::Find("$$FILTER_CUT_CONTROLLER$$");
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->Own(), "E");
+    EXPECT_EQ(entry->FieldsToJson(SettingsFilterCutController()).dump(),
+              R"({"intervals":[{"begin":0,"deleted":true,"deletedBefore":-9223372036854775808,"end":2592000000000}]})");
+    EXPECT_EQ(entry->FieldsToJson(OneKept()).dump(),
+              R"({"intervals":[{"begin":0,"deleted":true,"deletedBefore":0,"end":1000000},)"
+              R"({"begin":1000000,"deleted":false,"deletedBefore":1000000,"end":2000000},)"
+              R"({"begin":2000000,"deleted":true,"deletedBefore":1000000,"end":2592000000000}]})");
 }

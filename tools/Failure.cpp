@@ -1,6 +1,7 @@
 #include "tools/Failure.h"
 
 #include <exception>
+#include <iostream>
 #include <regex>
 #include <stdexcept>
 #include <typeinfo>
@@ -26,6 +27,16 @@ std::string FirstLine(const char* text)
 {
     const std::string all(text);
     return all.substr(0, all.find('\n'));
+}
+
+nlohmann::ordered_json ReportFailure(const Failure& failure, const nlohmann::ordered_json& where)
+{
+    nlohmann::ordered_json error{{"exception", failure.exception}, {"description", failure.description}};
+    for (const auto& [key, value] : where.items()) {
+        error[key] = value;
+    }
+    std::cerr << "error: " << failure.exception << ": " << failure.description << '\n';
+    return error;
 }
 
 // Names the exception in flight, most derived classes first.

@@ -2,6 +2,8 @@
 //   list [--json]            the catalogue, one line (or JSON object) per class
 //   show ID [OPTIONS...]     a default record, filled by Deserialize with each option string in turn
 //   docs [--output FILE]     the Markdown reference docs/catalogue.md
+//   resize OPTIONS --input WxH[:NUM/DEN]       the resizer's geometry for one input frame
+//   cut --interval B,E,deleted|kept ... [--source-duration D] [--map T ...]   a cut list
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -16,6 +18,7 @@
 #include <nlohmann/json.hpp>
 
 #include "catalog/SettingsCatalog.h"
+#include "tools/Commands.h"
 #include "tools/Failure.h"
 
 namespace {
@@ -23,11 +26,11 @@ namespace {
 using Zorvan::SettingsCatalog;
 using Zorvan::SettingsCatalogEntry;
 using ZorvanTool::DescribeCurrentException;
-using ZorvanTool::Failure;
+using ZorvanTool::exitFailure;
 using ZorvanTool::FirstLine;
+using ZorvanTool::ReportFailure;
 using Json = nlohmann::ordered_json;
 
-constexpr int exitFailure = 1;
 constexpr int exitUnknownClass = 2;
 
 int List(bool asJson)
@@ -88,13 +91,10 @@ int Show(const std::string& id, const std::vector<std::string>& options)
         std::cout << out.dump(2) << '\n';
         return 0;
     } catch (...) {
-        const Failure failure = DescribeCurrentException();
-        out["error"] = {{"exception", failure.exception},
-                        {"description", failure.description},
-                        {"option", current != nullptr ? Json(*current) : Json(nullptr)}};
+        out["error"] = ReportFailure(DescribeCurrentException(),
+                                     {{"option", current != nullptr ? Json(*current) : Json(nullptr)}});
         out["fields"] = entry->FieldsToJson(*record);
         std::cout << out.dump(2) << '\n';
-        std::cerr << "error: " << failure.exception << ": " << failure.description << '\n';
         return exitFailure;
     }
 }
@@ -170,7 +170,9 @@ int main(int argc, char** argv)
                "  zorvan-settings list\n"
                "  zorvan-settings show '$$EffectBlurGaussian$$' 'scale=2.5'\n"
                "  zorvan-settings show SettingsFilterSpeedUp 'speed=2' 'useSeek=1'\n"
-               "  zorvan-settings docs --output docs/catalogue.md");
+               "  zorvan-settings docs --output docs/catalogue.md\n"
+               "  zorvan-settings resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080\n"
+               "  zorvan-settings cut --interval 1000000,2000000,kept --source-duration 5000000 --map 1500000");
 
     bool listJson = false;
     CLI::App* list = app.add_subcommand(
@@ -192,6 +194,9 @@ int main(int argc, char** argv)
     CLI::App* docs = app.add_subcommand("docs", "Write the Markdown reference of every class (docs/catalogue.md)");
     docs->add_option("-o,--output", docsOutput, "File to write instead of standard output");
 
+    const ZorvanTool::Subcommand resize = ZorvanTool::AddResizeCommand(app);
+    const ZorvanTool::Subcommand cut = ZorvanTool::AddCutCommand(app);
+
     CLI11_PARSE(app, argc, argv);
 
     try {
@@ -200,6 +205,11 @@ int main(int argc, char** argv)
         }
         if (*show) {
             return Show(showId, showOptions);
+        }
+        for (const auto* command : {&resize, &cut}) {
+            if (command->command->parsed()) {
+                return command->run();
+            }
         }
         return Docs(docsOutput);
     } catch (const std::exception& e) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # shellcheck disable=SC2016  # the $$ of class identifiers are literal text
-# The command-line tool zorvan-settings: list, show (success, failures, unknown class) and --help.
+# The command-line tool zorvan-settings: list, show (success, failures, unknown class), resize, cut and --help.
 # Usage: tool_cli.sh <path-to-zorvan-settings>
 # The tool prints pretty JSON with a fixed key order, so expectations are literal texts.
 set -euo pipefail
@@ -144,8 +144,100 @@ if [ "$rc" -ne 0 ] || [ "$(grep -c '^    "id": ' <<<"$out")" -ne 220 ] || ! grep
   failed "list --json: 220 objects, \$\$EffectBlurGaussian\$\$ among them"
 fi
 
+# resize: Part 2.1's LetterBox example (a 4:3 source into 1920x1080: bars of 240 left and right)
+run resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080
+expect_lines "resize LetterBox: output, target margins 240 and 240, quad x at -0.75 and 0.75" 0 \
+  '  "output": {' '    "width": 1920,' '    "height": 1080,' \
+  '  "target": {' '    "left": 240,' '    "right": 240,' '    "top": 0,' '    "bottom": 0' \
+  '    -0.75,' '    0.75,'
+if [ "$(grep -c '^    "left": 240,$' <<<"$out")" -ne 1 ]; then
+  failed "resize LetterBox: only the target has a margin of 240"
+fi
+
+# resize: Part 2.1's Crop example (a 960x720 source: 90 cut from top and bottom, v at 0.125 and 0.875)
+run resize '1920x1080:size_mode=Custom:custom_mode=Crop' --input 960x720:1/1
+expect_lines "resize Crop: source margins 90 top and bottom" 0 \
+  '  "source": {' '    "top": 90,' '    "bottom": 90' '    0.125,' '    0.875,'
+
+run resize '1x1:size_mode=9' --input 10x10
+expect_lines "resize with a refused size mode: SettingsException, the option string" 1 \
+  '    "exception": "SettingsException",' '    "description": "Bad size mode",' \
+  '    "option": "1x1:size_mode=9"' '    "sizeMode": 0,'
+if [ "$err" != "error: SettingsException: Bad size mode" ]; then
+  failed "resize with a refused size mode: one-line message on stderr"
+fi
+
+run resize '1x1:size_mode=4294967295' --input 10x10
+expect_lines "resize: a failure of the calculation names no option string" 1 \
+  '    "exception": "std::logic_error",' "    \"description\": \"Unknown resize mode '4294967295'\"," \
+  '    "option": null'
+
+run resize '1x1' --input 10y10
+if [ "$rc" -ne 2 ] || [ -n "$out" ] || [ -z "$err" ]; then
+  failed "resize with an unreadable --input: exit 2, nothing on stdout"
+fi
+
+# cut: Part 2.2's example: deleted, kept, deleted; mapped both ways
+run cut --interval 1000000,2000000,kept --source-duration 5000000 --map 1500000 --map 500000
+expect_exact "cut: the optimised list, overall duration and mappings" 0 '{
+  "id": "$$FILTER_CUT_CONTROLLER$$",
+  "class": "SettingsFilterCutController",
+  "intervals": [
+    {
+      "begin": 0,
+      "end": 1000000,
+      "deletedBefore": 0,
+      "deleted": true
+    },
+    {
+      "begin": 1000000,
+      "end": 2000000,
+      "deletedBefore": 1000000,
+      "deleted": false
+    },
+    {
+      "begin": 2000000,
+      "end": 2592000000000,
+      "deletedBefore": 1000000,
+      "deleted": true
+    }
+  ],
+  "sourceDuration": 5000000,
+  "overallDuration": 1000000,
+  "maps": [
+    {
+      "time": 1500000,
+      "source2Result": 500000,
+      "result2Source": -9223372036854775808
+    },
+    {
+      "time": 500000,
+      "source2Result": 0,
+      "result2Source": 1500000
+    }
+  ]
+}'
+
+run cut --interval 0,3000000,kept --interval 1000000,2000000,deleted --map -5
+expect_lines "cut: a later interval overrides; a negative time is looked up at 0 but not moved" 0 \
+  '      "deletedBefore": 1000000,' '  "sourceDuration": 2592000000000,' '  "overallDuration": 2000000,' \
+  '      "time": -5,' '      "source2Result": -5,'
+
+run cut --map 2592000000000
+expect_lines "cut: a time at the open end is not found" 1 \
+  '    "exception": "std::logic_error",' \
+  "    \"description\": \"Can't find interval in SettingsFilterCutController\"," '    "map": 2592000000000'
+if [ "$err" != "error: std::logic_error: Can't find interval in SettingsFilterCutController" ]; then
+  failed "cut at the open end: one-line message on stderr"
+fi
+
+run cut --interval 1,2,maybe
+if [ "$rc" -ne 2 ] || [ -n "$out" ] || [ -z "$err" ]; then
+  failed "cut with an unreadable --interval: exit 2, nothing on stdout"
+fi
+
 run --help
-for word in list show docs; do
+for word in list show docs resize cut; do
   if [ "$rc" -ne 0 ] || ! grep -qE "^ +$word " <<<"$out"; then
     failed "--help: mentions the subcommand $word"
   fi
