@@ -46,6 +46,9 @@ void AddFieldsPart_1(FieldMap& fields);
 void AddFieldsPart_2_1(FieldMap& fields);
 void AddFieldsPart_2_2(FieldMap& fields);
 void AddFieldsPart_2_6(FieldMap& fields);
+void AddFieldsPart_6_1(FieldMap& fields);
+void AddFieldsPart_6_2(FieldMap& fields);
+void AddFieldsPart_6_3(FieldMap& fields);
 void AddFieldsPart_6_4(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

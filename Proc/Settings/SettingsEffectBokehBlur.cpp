@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsEffectBokehBlur.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/MapForm.h"
 
 namespace Zorvan::Proc {
 
@@ -23,18 +24,10 @@ void SettingsEffectBokehBlur::Deserialize(const std::string& options)
     }
     // Part 6.4: stored straight into the fields, in key order.
     const auto map = GetOptionsMap(options, {"size", "exposure", "hdrborder", "intensity"});
-    if (const auto found = map.find("size"); found != map.end()) {
-        size = std::stod(found->second);
-    }
-    if (const auto found = map.find("exposure"); found != map.end()) {
-        exposure = std::stod(found->second);
-    }
-    if (const auto found = map.find("hdrborder"); found != map.end()) {
-        hdrBorder = std::stod(found->second);
-    }
-    if (const auto found = map.find("intensity"); found != map.end()) {
-        intensity = std::stof(found->second);
-    }
+    MapForm::Read(map, "size", size);
+    MapForm::Read(map, "exposure", exposure);
+    MapForm::Read(map, "hdrborder", hdrBorder);
+    MapForm::Read(map, "intensity", intensity);
 }
 
 void SettingsEffectBokehBlur::SetParams(double newSize, double newExposure, double newHdrBorder)
