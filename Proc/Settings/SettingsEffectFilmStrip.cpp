@@ -16,4 +16,14 @@ std::unique_ptr<Settings> SettingsEffectFilmStrip::Clone() const
     return std::make_unique<SettingsEffectFilmStrip>(*this);
 }
 
+void SettingsEffectFilmStrip::SetType(Type value)
+{
+    type = value;
+}
+
+SettingsEffectFilmStrip::Type SettingsEffectFilmStrip::GetType() const
+{
+    return type;
+}
+
 } // namespace Zorvan::Proc

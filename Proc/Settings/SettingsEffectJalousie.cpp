@@ -16,4 +16,14 @@ std::unique_ptr<Settings> SettingsEffectJalousie::Clone() const
     return std::make_unique<SettingsEffectJalousie>(*this);
 }
 
+void SettingsEffectJalousie::SetThickness(unsigned int value)
+{
+    thickness = value;
+}
+
+unsigned int SettingsEffectJalousie::GetThickness() const
+{
+    return thickness;
+}
+
 } // namespace Zorvan::Proc

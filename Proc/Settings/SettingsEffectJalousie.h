@@ -3,14 +3,20 @@
 
 namespace Zorvan::Proc {
 
-// Identifier-only class (Part 1.5, hyphen row): it bears its identifier and keeps
-// the base operations of Part 1.1.
+// Part 6.1: jalousie, one field `thickness`. A hyphen row of Part 1.5: it keeps the base's
+// IsEqualTo, IsEmpty and Deserialize.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectJalousie : public Settings {
 public:
     static const std::string CLASS_ID;
 
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
+
+    void SetThickness(unsigned int thickness);
+    unsigned int GetThickness() const;
+
+private:
+    unsigned int thickness = 0; // default left open by Part 6.1: 0, no slats
 };
 
 } // namespace Zorvan::Proc

@@ -3,12 +3,26 @@
 
 namespace Zorvan::Proc {
 
+// Part 6.1: lens flare. Map form, keys "preset" (int), "intensity" (float); keeps the base's
+// IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectLensFlare : public Settings {
 public:
     static const std::string CLASS_ID;
 
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
+    void Deserialize(const std::string& options) override;
+
+    void SetPreset(int preset); // plain store (left open by Part 6.1)
+    void SetIntensity(float intensity);
+
+    int GetPreset() const;
+    float GetIntensity() const;
+
+private:
+    // Defaults left open by Part 6.1: preset 0, intensity 0, the stage changes nothing.
+    int preset = 0;
+    float intensity = 0.0F;
 };
 
 } // namespace Zorvan::Proc

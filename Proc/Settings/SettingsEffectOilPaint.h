@@ -3,12 +3,31 @@
 
 namespace Zorvan::Proc {
 
+// Part 6.1: oil paint. Map form, keys "radius" (int), "intensity" (float); compares both
+// fields exactly; empty when the radius is 0 or the intensity is near zero.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectOilPaint : public Settings {
 public:
     static const std::string CLASS_ID;
 
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
+    bool IsEqualTo(const Settings& other) const override;
+    bool IsEmpty() const override;
+    void Deserialize(const std::string& options) override;
+
+    // Radius and intensity, exact.
+    bool operator==(const SettingsEffectOilPaint& other) const;
+
+    void SetRadius(int radius);         // plain store (left open by Part 6.1)
+    void SetIntensity(float intensity); // plain store (left open by Part 6.1)
+
+    int GetRadius() const;
+    float GetIntensity() const;
+
+private:
+    // Defaults left open by Part 6.1: all 0, the stage changes nothing (and is empty).
+    int radius = 0;
+    float intensity = 0.0F;
 };
 
 } // namespace Zorvan::Proc
