@@ -1,4 +1,8 @@
 #include "Proc/Settings/SettingsEffectBokehBlur.h"
+#include "Proc/Settings/SettingsEffectCameraShake.h"
+#include "Proc/Settings/SettingsEffectGlitchMpeg.h"
+#include "Proc/Settings/SettingsEffectGlitchSecurityCam.h"
+#include "Proc/Settings/SettingsEffectTiltShiftVEZ.h"
 #include "catalog/CatalogFields.h"
 
 namespace Zorvan::CatalogDetail {
@@ -18,6 +22,37 @@ void AddFieldsPart_6_4(FieldMap& fields)
                                                             : nlohmann::json(nullptr);
                                            }),
         Field<SettingsEffectBokehBlur>("intensity", &SettingsEffectBokehBlur::GetIntensity),
+    };
+
+    using Proc::SettingsEffectCameraShake;
+    fields["SettingsEffectCameraShake"] = {
+        Field<SettingsEffectCameraShake>("shiftx", &SettingsEffectCameraShake::GetShiftx),
+        Field<SettingsEffectCameraShake>("shifty", &SettingsEffectCameraShake::GetShifty),
+        Field<SettingsEffectCameraShake>("rotate", &SettingsEffectCameraShake::GetRotate),
+        Field<SettingsEffectCameraShake>("freq", &SettingsEffectCameraShake::GetFreq),
+        Field<SettingsEffectCameraShake>("persistence", &SettingsEffectCameraShake::GetPersistence),
+        Field<SettingsEffectCameraShake>("intensity", &SettingsEffectCameraShake::GetIntensity),
+    };
+
+    using Proc::SettingsEffectGlitchMpeg;
+    fields["SettingsEffectGlitchMpeg"] = {
+        Field<SettingsEffectGlitchMpeg>("intensity", &SettingsEffectGlitchMpeg::GetIntensity),
+        Field<SettingsEffectGlitchMpeg>("privateParameters", &SettingsEffectGlitchMpeg::GetPrivateParameters),
+    };
+
+    using Proc::SettingsEffectGlitchSecurityCam;
+    fields["SettingsEffectGlitchSecurityCam"] = {
+        Field<SettingsEffectGlitchSecurityCam>("intensity", &SettingsEffectGlitchSecurityCam::GetIntensity),
+        Field<SettingsEffectGlitchSecurityCam>("randDistortion", &SettingsEffectGlitchSecurityCam::GetRandDistortion),
+        Field<SettingsEffectGlitchSecurityCam>("constDistortion", &SettingsEffectGlitchSecurityCam::GetConstDistortion),
+    };
+
+    using Proc::SettingsEffectTiltShiftVEZ;
+    fields["SettingsEffectTiltShiftVEZ"] = {
+        Field<SettingsEffectTiltShiftVEZ>("upperLine", &SettingsEffectTiltShiftVEZ::GetUpperLine),
+        Field<SettingsEffectTiltShiftVEZ>("lowerLine", &SettingsEffectTiltShiftVEZ::GetLowerLine),
+        Field<SettingsEffectTiltShiftVEZ>("smoothness", &SettingsEffectTiltShiftVEZ::GetSmoothness),
+        Field<SettingsEffectTiltShiftVEZ>("blurness", &SettingsEffectTiltShiftVEZ::GetBlurness),
     };
 }
 
