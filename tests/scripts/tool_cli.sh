@@ -144,6 +144,20 @@ if [ "$rc" -ne 0 ] || [ "$(grep -c '^    "id": ' <<<"$out")" -ne 220 ] || ! grep
   failed "list --json: 220 objects, \$\$EffectBlurGaussian\$\$ among them"
 fi
 
+# Part 6.1: "intensity" through Deserialize bypasses SetIntensity's floor of 0.000001
+run show '$$EffectVHS$$' 'intensity=0.5' 'intensity=0'
+expect_lines "show VHS intensity=0 after 0.5: stored 0, not the setter's floor" 0 '    "intensity": 0.0' '  "isEmpty": false'
+
+# Part 6.1: NeonLamp packs r, g, b with alpha 255 (0xFF030201) and clamps the intensity to 1
+run show EffectNeonLamp 'r=1:g=2:b=3:intensity=5'
+expect_lines "show NeonLamp: packed colour and clamped intensity" 0 '    "intensity": 1.0,' '    "color": 4278387201'
+
+# Part 6.4: parsed values go through the checking setters
+run show EffectGlitchSecurityCam 'randDist=3.01'
+expect_lines "show GlitchSecurityCam randDist=3.01: SettingsException" 1 \
+  '    "exception": "SettingsException",' \
+  '    "description": "Invalid rand distortion value. Must be in the interval [0.0, 3.0]",'
+
 # resize: Part 2.1's LetterBox example (a 4:3 source into 1920x1080: bars of 240 left and right)
 run resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080
 expect_lines "resize LetterBox: output, target margins 240 and 240, quad x at -0.75 and 0.75" 0 \
