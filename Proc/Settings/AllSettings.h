@@ -1,6 +1,7 @@
 #pragma once
 // The umbrella header: every public header of the library. Written by scripts/gen-all-settings.sh.
 #include "Proc/Settings/AIFrameGeneratorSettings.h"
+#include "Proc/Settings/BaseSettingsISF.h"
 #include "Proc/Settings/CropInfo.h"
 #include "Proc/Settings/Export.h"
 #include "Proc/Settings/ImageHandler.h"

@@ -5,6 +5,7 @@
 namespace Zorvan::Proc {
 
 const std::string SettingsFrameUploader::CLASS_ID ZORVAN_INIT_STRINGS = "$$FRAME_UPLOADER$$";
+bool SettingsFrameUploader::s_metalHasHigherPriority = true;
 
 const std::string& SettingsFrameUploader::GetClassId() const
 {

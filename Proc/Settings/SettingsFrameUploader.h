@@ -8,6 +8,9 @@ namespace Zorvan::Proc {
 class ZORVAN_SETTINGS_EXPORT SettingsFrameUploader : public Settings {
 public:
     static const std::string CLASS_ID;
+    // Part 1.6: a public writable static, initially true. The library defines it and reads
+    // it nowhere; the engine owns its meaning.
+    static bool s_metalHasHigherPriority;
 
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
