@@ -158,6 +158,11 @@ expect_lines "show GlitchSecurityCam randDist=3.01: SettingsException" 1 \
   '    "exception": "SettingsException",' \
   '    "description": "Invalid rand distortion value. Must be in the interval [0.0, 3.0]",'
 
+# Part 5.2: sliders become the filter's factors; hue 540 is normalised to -180
+run show '$$COLOR_BALANCE$$' 'saturation=100:gamma=-100:hue=540'
+expect_lines "show COLOR_BALANCE: saturation 3.0, gamma 0.1, hue -180" 0 \
+  '    "saturation": 3.0,' '    "hue": -180,' '    "gamma": 0.1,' '  "isEmpty": false'
+
 # resize: Part 2.1's LetterBox example (a 4:3 source into 1920x1080: bars of 240 left and right)
 run resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080
 expect_lines "resize LetterBox: output, target margins 240 and 240, quad x at -0.75 and 0.75" 0 \
