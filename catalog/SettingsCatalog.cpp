@@ -294,6 +294,9 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsPart_2_1(fields);
     CatalogDetail::AddFieldsPart_2_2(fields);
     CatalogDetail::AddFieldsPart_2_6(fields);
+    CatalogDetail::AddFieldsPart_3_1(fields);
+    CatalogDetail::AddFieldsPart_3_2(fields);
+    CatalogDetail::AddFieldsPart_3_3(fields);
     CatalogDetail::AddFieldsPart_5_1(fields);
     CatalogDetail::AddFieldsPart_5_2(fields);
     CatalogDetail::AddFieldsPart_5_3(fields);
