@@ -16,5 +16,7 @@ struct Subcommand {
 Subcommand AddResizeCommand(CLI::App& app);
 // cut --interval BEGIN,END,deleted|kept ... [--source-duration D] [--map T ...] (CutCommand.cpp)
 Subcommand AddCutCommand(CLI::App& app);
+// trace FILE.json (TraceCommand.cpp)
+Subcommand AddTraceCommand(CLI::App& app);
 
 } // namespace ZorvanTool

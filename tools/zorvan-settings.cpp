@@ -4,6 +4,7 @@
 //   docs [--output FILE]     the Markdown reference docs/catalogue.md
 //   resize OPTIONS --input WxH[:NUM/DEN]       the resizer's geometry for one input frame
 //   cut --interval B,E,deleted|kept ... [--source-duration D] [--map T ...]   a cut list
+//   trace FILE.json          a speech-to-text result read from JSON, printed by Result::Trace
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -172,7 +173,8 @@ int main(int argc, char** argv)
                "  zorvan-settings show SettingsFilterSpeedUp 'speed=2' 'useSeek=1'\n"
                "  zorvan-settings docs --output docs/catalogue.md\n"
                "  zorvan-settings resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080\n"
-               "  zorvan-settings cut --interval 1000000,2000000,kept --source-duration 5000000 --map 1500000");
+               "  zorvan-settings cut --interval 1000000,2000000,kept --source-duration 5000000 --map 1500000\n"
+               "  zorvan-settings trace result.json");
 
     bool listJson = false;
     CLI::App* list = app.add_subcommand(
@@ -196,6 +198,7 @@ int main(int argc, char** argv)
 
     const ZorvanTool::Subcommand resize = ZorvanTool::AddResizeCommand(app);
     const ZorvanTool::Subcommand cut = ZorvanTool::AddCutCommand(app);
+    const ZorvanTool::Subcommand trace = ZorvanTool::AddTraceCommand(app);
 
     CLI11_PARSE(app, argc, argv);
 
@@ -206,7 +209,7 @@ int main(int argc, char** argv)
         if (*show) {
             return Show(showId, showOptions);
         }
-        for (const auto* command : {&resize, &cut}) {
+        for (const auto* command : {&resize, &cut, &trace}) {
             if (command->command->parsed()) {
                 return command->run();
             }
