@@ -474,12 +474,6 @@ const std::vector<Row> kTable{
 // Classes whose family issue has not landed yet: their E/M/D behaviour is not checked.
 // Each family issue removes its classes from this list; it shrinks to empty.
 const std::set<std::string> kNotLandedYet{
-    "SettingsAnalyzerAudioDetectShift",
-    "SettingsAnalyzerSilenceDetector",
-    "SettingsAnalyzerSpeechToText",
-    "SettingsAnalyzerVideoTrackObjectBase",
-    "SettingsAnalyzerVideoTrackObjectOnnxRT",
-    "SettingsAnalyzerVideoTrackObjectOpenCV",
     "SettingsAudioChorus",
     "SettingsAudioCompressor",
     "SettingsAudioDistortion",

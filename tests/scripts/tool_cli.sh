@@ -163,6 +163,15 @@ run show '$$COLOR_BALANCE$$' 'saturation=100:gamma=-100:hue=540'
 expect_lines "show COLOR_BALANCE: saturation 3.0, gamma 0.1, hue -180" 0 \
   '    "saturation": 3.0,' '    "hue": -180,' '    "gamma": 0.1,' '  "isEmpty": false'
 
+# Part 3.1: the buffer is given in minutes and must be at least one
+run show SettingsAnalyzerSpeechToText 'bufferDuration=0'
+expect_lines "show SpeechToText bufferDuration=0: SettingsException, exit 1" 1 \
+  '    "exception": "SettingsException",' \
+  '    "description": "Buffer duration must be greater or equal 1 minute.",' '    "bufferDuration": 60000000,'
+if [ "$err" != "error: SettingsException: Buffer duration must be greater or equal 1 minute." ]; then
+  failed "show SpeechToText bufferDuration=0: one-line message on stderr"
+fi
+
 # resize: Part 2.1's LetterBox example (a 4:3 source into 1920x1080: bars of 240 left and right)
 run resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080
 expect_lines "resize LetterBox: output, target margins 240 and 240, quad x at -0.75 and 0.75" 0 \
