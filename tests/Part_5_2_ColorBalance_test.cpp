@@ -17,28 +17,12 @@
 
 #include "Proc/Settings/SettingsEffectBalanceChroma.h"
 #include "Proc/Settings/SettingsEffectColorBalance.h"
+#include "TestSupport.h"
 #include "catalog/SettingsCatalog.h"
 
 using namespace Zorvan::Proc;
 
 namespace {
-
-// Calls f, which must throw exactly E (not a subclass, not wrapped); returns what().
-template <class E, class F>
-std::string ThrownExactly(F&& f)
-{
-    try {
-        f();
-    } catch (const E& e) {
-        EXPECT_EQ(typeid(e), typeid(E)) << "thrown: " << typeid(e).name();
-        return e.what();
-    } catch (const std::exception& e) {
-        ADD_FAILURE() << "unexpected exception " << typeid(e).name() << ": " << e.what();
-        return "<wrong exception>";
-    }
-    ADD_FAILURE() << "no exception";
-    return "<no exception>";
-}
 
 SettingsEffectColorBalance WithSaturation(int slider)
 {
@@ -585,8 +569,8 @@ TEST(ColorBalance, DeserializeFailureLeavesEarlierKeysOfTheClassOrderApplied)
     SettingsEffectColorBalance record;
     // "hue" fails (std::stoi("-")); the keys are read in the class's order, not the string's:
     // brightness, contrast and saturation come before hue, gamma and the rest after it.
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>(
-                  [&] { record.Deserialize("gamma=50:rg=9:hue=-:brightness=5:contrast=6:saturation=50"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [&] { record.Deserialize("gamma=50:rg=9:hue=-:brightness=5:contrast=6:saturation=50"); }, false),
               "stoi");
     EXPECT_EQ(record.GetBrightness(), 5);
     EXPECT_EQ(record.GetContrast(), 6);
@@ -599,7 +583,8 @@ TEST(ColorBalance, DeserializeFailureLeavesEarlierKeysOfTheClassOrderApplied)
 TEST(ColorBalance, DeserializeOutOfRangeIntRaisesOutOfRangeAfterEarlierKeys)
 {
     SettingsEffectColorBalance record;
-    EXPECT_EQ(ThrownExactly<std::out_of_range>([&] { record.Deserialize("rg=1:gg=2:bg=3:weight=2147483648"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::out_of_range>(
+                  [&] { record.Deserialize("rg=1:gg=2:bg=3:weight=2147483648"); }, false),
               "stoi");
     EXPECT_EQ(record.GetRedGamma(), 1);
     EXPECT_EQ(record.GetGreenGamma(), 2);
@@ -610,7 +595,8 @@ TEST(ColorBalance, DeserializeOutOfRangeIntRaisesOutOfRangeAfterEarlierKeys)
 TEST(ColorBalance, DeserializeQuotedNumberIsAConversionFailure)
 {
     SettingsEffectColorBalance record;
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([&] { record.Deserialize("contrast=\"5\""); }), "stoi");
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>([&] { record.Deserialize("contrast=\"5\""); }, false),
+              "stoi");
     EXPECT_EQ(record.GetContrast(), 0);
 }
 
@@ -872,15 +858,16 @@ TEST(BalanceChroma, DeserializeConvertsWithStoiAndAbsentKeysLeaveFields)
 TEST(BalanceChroma, DeserializeFailureLeavesEarlierKeysApplied)
 {
     SettingsEffectBalanceChroma record;
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>(
-                  [&] { record.Deserialize("highlights-red=7:midtones-red=-:shadows-red=5:preserve-luminosity=0"); }),
-              "stoi");
+    EXPECT_EQ(
+        ZorvanTest::FormBDescription<std::invalid_argument>(
+            [&] { record.Deserialize("highlights-red=7:midtones-red=-:shadows-red=5:preserve-luminosity=0"); }, false),
+        "stoi");
     EXPECT_EQ(ChromaValues(record), (std::array<int, 9>{5, 0, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_TRUE(record.GetPreserveLuminosity());
 
     SettingsEffectBalanceChroma other;
-    EXPECT_EQ(ThrownExactly<std::out_of_range>(
-                  [&] { other.Deserialize("shadows-red=-5:shadows-green=99999999999:shadows-blue=1"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::out_of_range>(
+                  [&] { other.Deserialize("shadows-red=-5:shadows-green=99999999999:shadows-blue=1"); }, false),
               "stoi");
     EXPECT_EQ(ChromaValues(other), (std::array<int, 9>{-5, 0, 0, 0, 0, 0, 0, 0, 0}));
 }

@@ -21,6 +21,7 @@
 
 #include "Proc/Settings/SettingsEffectColorBalance.h"
 #include "Proc/Settings/SettingsEffectColorCurves.h"
+#include "TestSupport.h"
 #include "catalog/SettingsCatalog.h"
 
 using namespace Zorvan::Proc;
@@ -28,23 +29,6 @@ using Curve::CurvePoints;
 using CurveType = SettingsEffectColorCurves::CurveType;
 
 namespace {
-
-// Calls f, which must throw exactly E (not a subclass, not wrapped); returns what().
-template <class E, class F>
-std::string ThrownExactly(F&& f)
-{
-    try {
-        f();
-    } catch (const E& e) {
-        EXPECT_EQ(typeid(e), typeid(E)) << "thrown: " << typeid(e).name();
-        return e.what();
-    } catch (const std::exception& e) {
-        ADD_FAILURE() << "unexpected exception " << typeid(e).name() << ": " << e.what();
-        return "<wrong exception>";
-    }
-    ADD_FAILURE() << "no exception";
-    return "<no exception>";
-}
 
 // The tolerance of IsEqualPoints, 0.0001 as a float (9.999999747378752e-05), and its lower
 // neighbour (bits 0x38D1B716, 9.99999901978299e-05).
@@ -290,15 +274,20 @@ TEST(ColorCurves, DeserializeFloatsEmptyTextAndTrailingCommaGiveNoEmptyPiece)
 
 TEST(ColorCurves, DeserializeFloatsRaisesTheConversionExceptions)
 {
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([] { (void)SettingsEffectColorCurves::DeserializeFloats("1,,2"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [] { (void)SettingsEffectColorCurves::DeserializeFloats("1,,2"); }, false),
               "stof");
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([] { (void)SettingsEffectColorCurves::DeserializeFloats(",1"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [] { (void)SettingsEffectColorCurves::DeserializeFloats(",1"); }, false),
               "stof");
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([] { (void)SettingsEffectColorCurves::DeserializeFloats("0,a"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [] { (void)SettingsEffectColorCurves::DeserializeFloats("0,a"); }, false),
               "stof");
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([] { (void)SettingsEffectColorCurves::DeserializeFloats("-"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [] { (void)SettingsEffectColorCurves::DeserializeFloats("-"); }, false),
               "stof");
-    EXPECT_EQ(ThrownExactly<std::out_of_range>([] { (void)SettingsEffectColorCurves::DeserializeFloats("0,1e40"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::out_of_range>(
+                  [] { (void)SettingsEffectColorCurves::DeserializeFloats("0,1e40"); }, false),
               "stof");
 }
 
@@ -321,13 +310,17 @@ TEST(ColorCurves, DeserializeDomainFallsBackToZeroOneUnlessExactlyTwoFloats)
 
 TEST(ColorCurves, DeserializeDomainThatCannotBeConvertedStillRaises)
 {
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([] {
-                  (void)SettingsEffectColorCurves::DeserializeDomain(Map({{"rgb-domain", "0,,1"}}), "rgb-domain");
-              }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [] {
+                      (void)SettingsEffectColorCurves::DeserializeDomain(Map({{"rgb-domain", "0,,1"}}), "rgb-domain");
+                  },
+                  false),
               "stof");
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([] {
-                  (void)SettingsEffectColorCurves::DeserializeDomain(Map({{"rgb-domain", "-,1"}}), "rgb-domain");
-              }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [] {
+                      (void)SettingsEffectColorCurves::DeserializeDomain(Map({{"rgb-domain", "-,1"}}), "rgb-domain");
+                  },
+                  false),
               "stof");
 }
 
@@ -427,8 +420,8 @@ TEST(ColorCurves, DeserializeNonNumberPieceRaisesAndKeepsEarlierCurvesOfTheCall)
 {
     SettingsEffectColorCurves record;
     // Types are read RGB, red, green, blue whatever the order in the string.
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>(
-                  [&] { record.Deserialize("blue-curve=0,1:green-curve=0,,1:red-curve=0,1:rgb-curve=1,0"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [&] { record.Deserialize("blue-curve=0,1:green-curve=0,,1:red-curve=0,1:rgb-curve=1,0"); }, false),
               "stof");
     EXPECT_NE(record.GetCurve(CurveType::Rgb), nullptr);
     EXPECT_NE(record.GetCurve(CurveType::Red), nullptr);
@@ -439,7 +432,8 @@ TEST(ColorCurves, DeserializeNonNumberPieceRaisesAndKeepsEarlierCurvesOfTheCall)
 TEST(ColorCurves, DeserializeUnconvertibleDomainRaisesAndTheCurveIsNotSet)
 {
     SettingsEffectColorCurves record;
-    EXPECT_EQ(ThrownExactly<std::invalid_argument>([&] { record.Deserialize("red-curve=0,1:red-domain=-,1"); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::invalid_argument>(
+                  [&] { record.Deserialize("red-curve=0,1:red-domain=-,1"); }, false),
               "stof");
     EXPECT_TRUE(record.IsEmpty());
 }
@@ -448,7 +442,8 @@ TEST(ColorCurves, DeserializeOutOfRangeFloatRaisesOutOfRange)
 {
     SettingsEffectColorCurves record;
     const std::string huge = "1" + std::string(50, '0');
-    EXPECT_EQ(ThrownExactly<std::out_of_range>([&] { record.Deserialize("rgb-curve=0,1:red-curve=0," + huge); }),
+    EXPECT_EQ(ZorvanTest::FormBDescription<std::out_of_range>(
+                  [&] { record.Deserialize("rgb-curve=0,1:red-curve=0," + huge); }, false),
               "stof");
     EXPECT_NE(record.GetCurve(CurveType::Rgb), nullptr);
     EXPECT_EQ(record.GetCurve(CurveType::Red), nullptr);
