@@ -297,6 +297,9 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsPart_3_1(fields);
     CatalogDetail::AddFieldsPart_3_2(fields);
     CatalogDetail::AddFieldsPart_3_3(fields);
+    CatalogDetail::AddFieldsPart_4_1(fields);
+    CatalogDetail::AddFieldsPart_4_2(fields);
+    CatalogDetail::AddFieldsPart_4_3(fields);
     CatalogDetail::AddFieldsPart_5_1(fields);
     CatalogDetail::AddFieldsPart_5_2(fields);
     CatalogDetail::AddFieldsPart_5_3(fields);

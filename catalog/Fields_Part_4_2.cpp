@@ -1,0 +1,10 @@
+#include "catalog/CatalogFields.h"
+
+namespace Zorvan::CatalogDetail {
+
+void AddFieldsPart_4_2(FieldMap& fields)
+{
+    (void)fields;
+}
+
+} // namespace Zorvan::CatalogDetail
