@@ -172,6 +172,11 @@ if [ "$err" != "error: SettingsException: Buffer duration must be greater or equ
   failed "show SpeechToText bufferDuration=0: one-line message on stderr"
 fi
 
+# Part 4.2: in an echo's option string "gain_out" replaces the working gain that becomes
+# the in-gain, and the out-gain is always 1
+run show SettingsAudioEcho 'gain_in=0.5:gain_out=0.25:delay=10:decay=0.5'
+expect_lines "show SettingsAudioEcho: in-gain 0.25, out-gain 1" 0 '    "gainIn": 0.25,' '    "gainOut": 1.0,'
+
 # resize: Part 2.1's LetterBox example (a 4:3 source into 1920x1080: bars of 240 left and right)
 run resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080
 expect_lines "resize LetterBox: output, target margins 240 and 240, quad x at -0.75 and 0.75" 0 \
