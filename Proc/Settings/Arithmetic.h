@@ -1,6 +1,7 @@
 #pragma once
 // Arithmetic shared by the library's own sources. Internal: not installed with the public
 // headers (see CMakeLists.txt).
+#include <cmath>
 #include <limits>
 
 namespace Zorvan::Proc {
@@ -17,6 +18,22 @@ inline unsigned int TruncateSaturated(double value)
         return std::numeric_limits<unsigned int>::max();
     }
     return static_cast<unsigned int>(value);
+}
+
+// Truncation toward zero into int, saturating at both limits; not-a-number gives 0 (as
+// the float-to-int conversion of 64-bit Arm does). Parts 5.1, 6.1, 6.3 and 6.4.
+inline int TruncateToIntSaturated(double value)
+{
+    if (std::isnan(value)) {
+        return 0;
+    }
+    if (value >= 2147483648.0) { // 2^31
+        return std::numeric_limits<int>::max();
+    }
+    if (value <= -2147483649.0) { // anything above truncates to -2^31 or more
+        return std::numeric_limits<int>::min();
+    }
+    return static_cast<int>(value);
 }
 
 } // namespace Zorvan::Proc

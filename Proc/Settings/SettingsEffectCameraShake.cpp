@@ -2,8 +2,8 @@
 
 #include <cmath>
 #include <cstdint>
-#include <limits>
 
+#include "Proc/Settings/Arithmetic.h"
 #include "Proc/Settings/InitOrder.h"
 #include "Proc/Settings/MapForm.h"
 
@@ -21,22 +21,6 @@ struct NoiseCoefficients {
 constexpr NoiseCoefficients kNoiseX{15731U, 789221U, 1376312627U};
 constexpr NoiseCoefficients kNoiseY{15733U, 789227U, 1376312629U};
 constexpr NoiseCoefficients kNoiseR{15737U, 789251U, 1376312657U};
-
-// Truncation toward zero into a signed 32-bit int, saturating at both limits; not-a-number
-// gives 0 (as the double-to-int conversion of 64-bit Arm does), so no value is undefined.
-std::int32_t TruncateToInt32Saturated(double value)
-{
-    if (std::isnan(value)) {
-        return 0;
-    }
-    if (value >= 2147483648.0) { // 2^31
-        return std::numeric_limits<std::int32_t>::max();
-    }
-    if (value <= -2147483649.0) { // -2^31 - 1: anything above truncates to -2^31 or more
-        return std::numeric_limits<std::int32_t>::min();
-    }
-    return static_cast<std::int32_t>(value);
-}
 
 // Hash of an integer in wrapping 32-bit arithmetic (done unsigned): a value in about -1..1.
 double Hash(std::uint32_t k, const NoiseCoefficients& row)
@@ -56,7 +40,7 @@ double Noise(double time, int octaves, double persistence, const NoiseCoefficien
     double amplitude = 1.0;
     double x = time;
     for (int octave = 0; octave < octaves; ++octave) {
-        const std::int32_t i = TruncateToInt32Saturated(x);
+        const std::int32_t i = TruncateToIntSaturated(x);
         const auto k = static_cast<std::uint32_t>(i);
         const double left = Hash(k, row);
         const double right = Hash(k + 1U, row); // i + 1 wraps

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <limits>
 
+#include "Proc/Settings/Arithmetic.h"
 #include "Proc/Settings/InitOrder.h"
 
 namespace Zorvan::Proc {
@@ -131,14 +131,7 @@ std::uint32_t WeightedSum(const Histogram& histogram)
 // far above 255 gives one) saturates, as the conversion of the 64-bit Arm target does.
 int Shift(std::uint32_t mean, double factor)
 {
-    const double shift = std::trunc(std::fma(128.0 - static_cast<double>(mean), factor, 0.5));
-    if (shift <= static_cast<double>(std::numeric_limits<int>::min())) {
-        return std::numeric_limits<int>::min();
-    }
-    if (shift >= static_cast<double>(std::numeric_limits<int>::max())) {
-        return std::numeric_limits<int>::max();
-    }
-    return static_cast<int>(shift);
+    return TruncateToIntSaturated(std::fma(128.0 - static_cast<double>(mean), factor, 0.5));
 }
 
 void CustomAutoWiteBalance(const Histogram& first, const Histogram& second, int& firstShift, int& secondShift)

@@ -1,8 +1,8 @@
 #include "Proc/Settings/SettingsEffectMosaic.h"
 
 #include <cmath>
-#include <limits>
 
+#include "Proc/Settings/Arithmetic.h"
 #include "Proc/Settings/InitOrder.h"
 #include "Proc/Settings/MapForm.h"
 
@@ -20,10 +20,7 @@ int ComputeAmount(int n, int amount, float intensity)
     if (!(result > 1.0F)) {
         return 1; // not above 1, NaN included
     }
-    if (result >= 2147483648.0F) { // 2^31: beyond int, saturated instead of undefined
-        return std::numeric_limits<int>::max();
-    }
-    return static_cast<int>(result); // truncation toward zero
+    return TruncateToIntSaturated(result); // truncation toward zero; beyond int saturated
 }
 
 } // namespace

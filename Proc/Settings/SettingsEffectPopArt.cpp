@@ -1,7 +1,6 @@
 #include "Proc/Settings/SettingsEffectPopArt.h"
 
-#include <limits>
-
+#include "Proc/Settings/Arithmetic.h"
 #include "Proc/Settings/InitOrder.h"
 #include "Proc/Settings/MapForm.h"
 
@@ -141,11 +140,7 @@ int SettingsEffectPopArt::GetLevels() const
     if (!(product > 1.0F)) {
         return 1; // not above 1, NaN included
     }
-    // 2^31 as a float: the first value outside int; saturate rather than convert (UB).
-    if (product >= 2147483648.0F) {
-        return std::numeric_limits<int>::max();
-    }
-    return static_cast<int>(product); // truncation toward zero; at least 1 here
+    return TruncateToIntSaturated(product); // truncation toward zero; at least 1 here
 }
 
 int SettingsEffectPopArt::GetStoredLevels() const
