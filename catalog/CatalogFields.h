@@ -1,6 +1,6 @@
 #pragma once
-// Internal to the catalogue: field lists, one registration function per Part.
-// A family issue adds catalog/Fields_Part_<N>_<M>.cpp and one call in SettingsCatalog.cpp.
+// Internal to the catalogue: field lists, one registration function per family of classes.
+// A new family adds catalog/Fields<Family>.cpp and one call in SettingsCatalog.cpp.
 #include <functional>
 #include <string>
 #include <type_traits>
@@ -42,22 +42,22 @@ SettingsCatalogField FieldJson(std::string name, Convert convert)
             }};
 }
 
-void AddFieldsPart_1(FieldMap& fields);
-void AddFieldsPart_2_1(FieldMap& fields);
-void AddFieldsPart_2_2(FieldMap& fields);
-void AddFieldsPart_2_6(FieldMap& fields);
-void AddFieldsPart_3_1(FieldMap& fields);
-void AddFieldsPart_3_2(FieldMap& fields);
-void AddFieldsPart_3_3(FieldMap& fields);
-void AddFieldsPart_4_1(FieldMap& fields);
-void AddFieldsPart_4_2(FieldMap& fields);
-void AddFieldsPart_4_3(FieldMap& fields);
-void AddFieldsPart_5_1(FieldMap& fields);
-void AddFieldsPart_5_2(FieldMap& fields);
-void AddFieldsPart_5_3(FieldMap& fields);
-void AddFieldsPart_6_1(FieldMap& fields);
-void AddFieldsPart_6_2(FieldMap& fields);
-void AddFieldsPart_6_3(FieldMap& fields);
-void AddFieldsPart_6_4(FieldMap& fields);
+void AddFieldsCore(FieldMap& fields);
+void AddFieldsResizer(FieldMap& fields);
+void AddFieldsCutController(FieldMap& fields);
+void AddFieldsTimeFilters(FieldMap& fields);
+void AddFieldsSpeechToText(FieldMap& fields);
+void AddFieldsVideoTracking(FieldMap& fields);
+void AddFieldsAudioAnalyzers(FieldMap& fields);
+void AddFieldsAudioDynamics(FieldMap& fields);
+void AddFieldsAudioDelayModulation(FieldMap& fields);
+void AddFieldsAudioReverberation(FieldMap& fields);
+void AddFieldsAutoEnhancement(FieldMap& fields);
+void AddFieldsColorBalance(FieldMap& fields);
+void AddFieldsCurves(FieldMap& fields);
+void AddFieldsStylising(FieldMap& fields);
+void AddFieldsVignette(FieldMap& fields);
+void AddFieldsHalfTonePopArt(FieldMap& fields);
+void AddFieldsCameraShakeGlitchTiltShift(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -290,23 +290,23 @@ std::vector<SettingsCatalogEntry> BuildEntries()
         Entry<Proc::SettingsVideoDecoder>("SettingsVideoDecoder", "Settings", "Others", "ED"),
     };
     CatalogDetail::FieldMap fields;
-    CatalogDetail::AddFieldsPart_1(fields);
-    CatalogDetail::AddFieldsPart_2_1(fields);
-    CatalogDetail::AddFieldsPart_2_2(fields);
-    CatalogDetail::AddFieldsPart_2_6(fields);
-    CatalogDetail::AddFieldsPart_3_1(fields);
-    CatalogDetail::AddFieldsPart_3_2(fields);
-    CatalogDetail::AddFieldsPart_3_3(fields);
-    CatalogDetail::AddFieldsPart_4_1(fields);
-    CatalogDetail::AddFieldsPart_4_2(fields);
-    CatalogDetail::AddFieldsPart_4_3(fields);
-    CatalogDetail::AddFieldsPart_5_1(fields);
-    CatalogDetail::AddFieldsPart_5_2(fields);
-    CatalogDetail::AddFieldsPart_5_3(fields);
-    CatalogDetail::AddFieldsPart_6_1(fields);
-    CatalogDetail::AddFieldsPart_6_2(fields);
-    CatalogDetail::AddFieldsPart_6_3(fields);
-    CatalogDetail::AddFieldsPart_6_4(fields);
+    CatalogDetail::AddFieldsCore(fields);
+    CatalogDetail::AddFieldsResizer(fields);
+    CatalogDetail::AddFieldsCutController(fields);
+    CatalogDetail::AddFieldsTimeFilters(fields);
+    CatalogDetail::AddFieldsSpeechToText(fields);
+    CatalogDetail::AddFieldsVideoTracking(fields);
+    CatalogDetail::AddFieldsAudioAnalyzers(fields);
+    CatalogDetail::AddFieldsAudioDynamics(fields);
+    CatalogDetail::AddFieldsAudioDelayModulation(fields);
+    CatalogDetail::AddFieldsAudioReverberation(fields);
+    CatalogDetail::AddFieldsAutoEnhancement(fields);
+    CatalogDetail::AddFieldsColorBalance(fields);
+    CatalogDetail::AddFieldsCurves(fields);
+    CatalogDetail::AddFieldsStylising(fields);
+    CatalogDetail::AddFieldsVignette(fields);
+    CatalogDetail::AddFieldsHalfTonePopArt(fields);
+    CatalogDetail::AddFieldsCameraShakeGlitchTiltShift(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);

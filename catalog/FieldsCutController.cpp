@@ -4,7 +4,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_2_2(FieldMap& fields)
+void AddFieldsCutController(FieldMap& fields)
 {
     using Proc::SettingsFilterCutController;
     fields["SettingsFilterCutController"] = {

@@ -4,7 +4,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_6_3(FieldMap& fields)
+void AddFieldsHalfTonePopArt(FieldMap& fields)
 {
     using Proc::SettingsEffectHalfTone;
     fields["SettingsEffectHalfTone"] = {

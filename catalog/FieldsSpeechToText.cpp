@@ -3,7 +3,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_3_1(FieldMap& fields)
+void AddFieldsSpeechToText(FieldMap& fields)
 {
     using C = Proc::SettingsAnalyzerSpeechToText;
     fields["SettingsAnalyzerSpeechToText"] = {

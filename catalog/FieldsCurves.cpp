@@ -6,7 +6,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_5_3(FieldMap& fields)
+void AddFieldsCurves(FieldMap& fields)
 {
     // The curves keyed by the number of their type, {"0": {"domain": [low, high], "points":
     // [...]}, ...}: an object of nlohmann::json keeps its keys sorted, so the output does not

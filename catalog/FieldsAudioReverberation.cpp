@@ -4,7 +4,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_4_3(FieldMap& fields)
+void AddFieldsAudioReverberation(FieldMap& fields)
 {
     using Proc::SettingsAudioReverb;
     using Proc::SettingsAudioReverberationImpulseResponse;

@@ -6,7 +6,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_4_2(FieldMap& fields)
+void AddFieldsAudioDelayModulation(FieldMap& fields)
 {
     using Proc::SettingsAudioChorus;
     using Proc::SettingsAudioEcho;

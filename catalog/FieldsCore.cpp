@@ -3,7 +3,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_1(FieldMap& fields)
+void AddFieldsCore(FieldMap& fields)
 {
     using Proc::SettingsEffectBlurGaussian;
     fields["SettingsEffectBlurGaussian"] = {

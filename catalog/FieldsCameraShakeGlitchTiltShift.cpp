@@ -7,7 +7,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_6_4(FieldMap& fields)
+void AddFieldsCameraShakeGlitchTiltShift(FieldMap& fields)
 {
     using Proc::SettingsEffectBokehBlur;
     fields["SettingsEffectBokehBlur"] = {

@@ -16,7 +16,7 @@ nlohmann::json RectToJson(const Proc::RectRel& rect)
 
 } // namespace
 
-void AddFieldsPart_3_2(FieldMap& fields)
+void AddFieldsVideoTracking(FieldMap& fields)
 {
     using Proc::SettingsAnalyzerVideoTrackObjectBase;
     using Proc::SettingsAnalyzerVideoTrackObjectOnnxRT;

@@ -4,7 +4,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_5_2(FieldMap& fields)
+void AddFieldsColorBalance(FieldMap& fields)
 {
     // Saturation and gamma are shown as stored: the filter factors, not the sliders.
     using Proc::SettingsEffectColorBalance;

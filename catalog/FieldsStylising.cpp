@@ -29,7 +29,7 @@ namespace Zorvan::CatalogDetail {
 
 // Part 6.1. Where a computed getter takes the name of a field getter (GlassMosaic's curve,
 // LensDistortion's zoom and distortion), the field is listed with that computed value.
-void AddFieldsPart_6_1(FieldMap& fields)
+void AddFieldsStylising(FieldMap& fields)
 {
     using Proc::SettingsEffectMotionBlur;
     fields["SettingsEffectMotionBlur"] = {

@@ -4,7 +4,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_2_1(FieldMap& fields)
+void AddFieldsResizer(FieldMap& fields)
 {
     using Proc::SettingsResizer;
     fields["SettingsResizer"] = {

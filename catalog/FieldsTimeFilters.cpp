@@ -16,7 +16,7 @@ nlohmann::json RateToJson(const std::optional<Proc::SettingsFilterSpeedUpVideo::
 
 } // namespace
 
-void AddFieldsPart_2_6(FieldMap& fields)
+void AddFieldsTimeFilters(FieldMap& fields)
 {
     using Proc::SettingsFilterSpeedUp;
     using Proc::SettingsFilterSpeedUpVideo;

@@ -3,7 +3,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_6_2(FieldMap& fields)
+void AddFieldsVignette(FieldMap& fields)
 {
     using Proc::SettingsEffectVignetteFilter;
     fields["SettingsEffectVignetteFilter"] = {

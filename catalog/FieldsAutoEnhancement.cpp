@@ -5,7 +5,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_5_1(FieldMap& fields)
+void AddFieldsAutoEnhancement(FieldMap& fields)
 {
     using Proc::SettingsEffectMagicEnhance;
     fields["SettingsEffectMagicEnhance"] = {

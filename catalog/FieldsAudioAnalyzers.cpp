@@ -4,7 +4,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_3_3(FieldMap& fields)
+void AddFieldsAudioAnalyzers(FieldMap& fields)
 {
     using Proc::SettingsAnalyzerAudioDetectShift;
     using Proc::SettingsAnalyzerSilenceDetector;

@@ -5,7 +5,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-void AddFieldsPart_4_1(FieldMap& fields)
+void AddFieldsAudioDynamics(FieldMap& fields)
 {
     using Proc::SettingsAudioCompressor;
     using Proc::SettingsAudioGate;
