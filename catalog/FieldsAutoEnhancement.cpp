@@ -38,8 +38,8 @@ void AddFieldsAutoEnhancement(FieldMap& fields)
                                            &SettingsEffectMagicEnhance2::GetBlackSaturatedPixels),
     };
 
-    // SettingsEffectAutoWhiteBalance: Part 5.1 gives it no getters ("none in this library"),
-    // so the catalogue lists no fields for it.
+    // SettingsEffectAutoWhiteBalance offers no getters: the renderer reads it only through
+    // its option string, so the catalogue lists no fields for it.
 }
 
 } // namespace Zorvan::CatalogDetail

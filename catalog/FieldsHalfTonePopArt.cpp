@@ -22,7 +22,7 @@ void AddFieldsHalfTonePopArt(FieldMap& fields)
         Field<SettingsEffectPopArt>("hue", &SettingsEffectPopArt::GetHue),
         Field<SettingsEffectPopArt>("offset", &SettingsEffectPopArt::GetOffset),
         Field<SettingsEffectPopArt>("scale", &SettingsEffectPopArt::GetScale),
-        // The stored field; GetLevels() is the calculation of Part 6.3.
+        // The stored field; GetLevels() is the level count the renderer uses.
         Field<SettingsEffectPopArt>("levels", &SettingsEffectPopArt::GetStoredLevels),
         Field<SettingsEffectPopArt>("amountVertical", &SettingsEffectPopArt::GetAmountVertical),
         Field<SettingsEffectPopArt>("amountHorizontal", &SettingsEffectPopArt::GetAmountHorizontal),

@@ -27,7 +27,7 @@
 
 namespace Zorvan::CatalogDetail {
 
-// Part 6.1. Where a computed getter takes the name of a field getter (GlassMosaic's curve,
+// Where a computed getter takes the name of a field getter (GlassMosaic's curve,
 // LensDistortion's zoom and distortion), the field is listed with that computed value.
 void AddFieldsStylising(FieldMap& fields)
 {

@@ -48,7 +48,7 @@ SettingsCatalogEntry Entry(const char* className, const char* base, const char* 
 
 std::vector<SettingsCatalogEntry> BuildEntries()
 {
-    // The rows of Part 1.5, in its order.
+    // Grouped as the engine groups its stages, alphabetical within each group.
     std::vector<SettingsCatalogEntry> entries{
         Entry<Proc::SettingsAnalyzerAudioDetectShift>("SettingsAnalyzerAudioDetectShift", "Settings", "Analyzers", "D"),
         Entry<Proc::SettingsAnalyzerSilenceDetector>("SettingsAnalyzerSilenceDetector", "Settings", "Analyzers", "D"),

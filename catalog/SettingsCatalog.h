@@ -1,5 +1,5 @@
 #pragma once
-// The catalogue of every class of Part 1.5: identifier, class name, base, the
+// The catalogue of every settings class: identifier, class name, base, the
 // overridden operations (E IsEqualTo, M IsEmpty, D Deserialize), a factory for a
 // default record and the readable fields as JSON values.
 #include <functional>
@@ -22,16 +22,16 @@ struct SettingsCatalogField {
 struct SettingsCatalogEntry {
     std::string classId;
     std::string className;
-    std::string base;            // as Part 1.5 writes it: "Settings", "-", "SettingsFilterSpeedUp", ...
+    std::string base;            // "Settings", "-" (no base), "SettingsFilterSpeedUp", ...
     std::string group;           // Analyzers, Audio, Effects, Filters, Transitions, Others
-    bool hasVirtualTable = true; // false for the hyphen rows of Part 1.5
+    bool hasVirtualTable = true; // false for the plain value records
     bool ownIsEqualTo = false;   // E
     bool ownIsEmpty = false;     // M
     bool ownDeserialize = false; // D
     std::function<std::unique_ptr<Proc::Settings>()> create;
     std::vector<SettingsCatalogField> fields;
 
-    // The last column of Part 1.5: "-", "none" or the letters of E, M, D.
+    // "-" (no virtual table), "none" or the letters of E, M, D.
     std::string Own() const;
     // The fields of a record of this class as a JSON object, in field order.
     nlohmann::ordered_json FieldsToJson(const Proc::Settings& record) const;
@@ -39,7 +39,7 @@ struct SettingsCatalogEntry {
 
 class SettingsCatalog {
 public:
-    // All 220 classes, in the order of Part 1.5.
+    // All 220 classes, grouped as the engine groups its stages.
     static const std::vector<SettingsCatalogEntry>& Entries();
     // By class identifier or by class name; nullptr when unknown.
     static const SettingsCatalogEntry* Find(std::string_view idOrClassName);

@@ -1,5 +1,5 @@
 // zorvan-settings cut --interval BEGIN,END,deleted|kept ... [--source-duration D] [--map T ...]:
-// builds a cut list (Part 2.2) with AddInterval in the order given and prints the optimised
+// builds a cut list with AddInterval in the order given and prints the optimised
 // intervals, the overall duration and, for each --map, Source2Result and Result2Source.
 #include <charconv>
 #include <cstdint>
@@ -105,7 +105,7 @@ Subcommand AddCutCommand(CLI::App& app)
 {
     auto arguments = std::make_shared<Arguments>();
     CLI::App* command = app.add_subcommand(
-        "cut", "Build a cut list (Part 2.2) with AddInterval in the order given and print as JSON {id, class, "
+        "cut", "Build a cut list with AddInterval in the order given and print as JSON {id, class, "
                "intervals, sourceDuration, overallDuration, maps}: the optimised intervals {begin, end, "
                "deletedBefore, deleted}, GetOverallDuration of the source duration and, for each --map T, "
                "{time, source2Result, result2Source}. Times are microseconds. When Source2Result fails print "

@@ -1,5 +1,5 @@
 // zorvan-settings resize OPTIONS --input WxH[:NUM/DEN]: applies the resizer's option string
-// (Part 2.1) and prints, for that input frame, the output frame of GetOutputFrameSize, the
+// and prints, for that input frame, the output frame of GetOutputFrameSize, the
 // source and target margins of GetROI and the 16 floats of CalculateCoordBuffer.
 #include <charconv>
 #include <cstdlib>
@@ -101,7 +101,7 @@ Subcommand AddResizeCommand(CLI::App& app)
     };
     auto arguments = std::make_shared<Arguments>();
     CLI::App* command = app.add_subcommand(
-        "resize", "Apply a resizer option string (Part 2.1, e.g. '1920x1080:size_mode=Custom:custom_mode=LetterBox') "
+        "resize", "Apply a resizer option string (e.g. '1920x1080:size_mode=Custom:custom_mode=LetterBox') "
                   "and print as JSON {id, class, fields, input, output, source, target, coordBuffer}: the output "
                   "frame of GetOutputFrameSize, the margins of GetROI and the 16 floats of CalculateCoordBuffer "
                   "(u, v, x, y of the top left, top right, bottom right and bottom left vertices). On a failure "

@@ -1,5 +1,5 @@
-// zorvan-settings trace FILE.json: reads a speech-to-text result (Part 3.1,
-// SettingsAnalyzerSpeechToText::Result) written as JSON and prints Result::Trace() of it on
+// zorvan-settings trace FILE.json: reads a speech-to-text result
+// (SettingsAnalyzerSpeechToText::Result) written as JSON and prints Result::Trace() of it on
 // standard output, byte for byte. A file that cannot be read or does not have the shape below
 // prints "error: <FILE>: <place>: <what>" on standard error and exits exitUsage (2).
 #include <cerrno>
@@ -203,7 +203,7 @@ Subcommand AddTraceCommand(CLI::App& app)
     auto file = std::make_shared<std::string>();
     CLI::App* command = app.add_subcommand(
         "trace",
-        "Read a speech-to-text result (Part 3.1, SettingsAnalyzerSpeechToText::Result) from a JSON file and print "
+        "Read a speech-to-text result (SettingsAnalyzerSpeechToText::Result) from a JSON file and print "
         "Result::Trace() of it exactly, with nothing added. The file holds {\"analyzedLanguage\": string, "
         "\"analyzedLanguageName\": string, \"error\": string (optional, default \"\"), \"subtitles\": [{\"t0\": int, "
         "\"t1\": int, \"text\": string, \"newSpeaker\": bool (optional, default false), \"segments\": [{\"t0\": int, "

@@ -125,7 +125,7 @@ std::string FieldsCell(const SettingsCatalogEntry& entry)
 void WriteDocs(std::ostream& out)
 {
     out << "# Settings catalogue\n\n"
-        << "The classes of zorvan-settings (spec Part 1.5): class identifier, class name, direct base, the\n"
+        << "The classes of zorvan-settings: class identifier, class name, direct base, the\n"
         << "operations the class overrides itself (E `IsEqualTo`, M `IsEmpty`, D `Deserialize`; \"none\": all\n"
         << "three are the base's; \"-\": no virtual table) and the catalogued fields with the values of a\n"
         << "default record.\n\n"
@@ -165,7 +165,7 @@ int Docs(const std::string& outputPath)
 
 int main(int argc, char** argv)
 {
-    CLI::App app{"zorvan-settings: inspect the settings classes of the Zorvan media engine (spec Part 1.5)"};
+    CLI::App app{"zorvan-settings: inspect the settings classes of the Zorvan media engine"};
     app.require_subcommand(1);
     app.footer("Examples:\n"
                "  zorvan-settings list\n"
@@ -179,7 +179,7 @@ int main(int argc, char** argv)
     bool listJson = false;
     CLI::App* list = app.add_subcommand(
         "list", "Print the catalogue, one line per class: identifier, class name, base, own operations "
-                "(E IsEqualTo, M IsEmpty, D Deserialize; 'none' or '-' as in Part 1.5).");
+                "(E IsEqualTo, M IsEmpty, D Deserialize; 'none': all three are the base's; '-': no virtual table).");
     list->add_flag("--json", listJson, "Print a JSON array of {id, class, base, group, own, fields} instead");
 
     std::string showId;
