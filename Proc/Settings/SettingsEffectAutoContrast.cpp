@@ -29,7 +29,7 @@ void SettingsEffectAutoContrast::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 5.1: stored straight into the fields, past the setters' clamp.
+    // Stored straight into the fields, past the setters' clamp: saved presets load as written.
     const auto map = GetOptionsMap(options, {"b", "w", "a"});
     MapForm::Read(map, "b", blackSaturatedPixels);
     MapForm::Read(map, "w", whiteSaturatedPixels);

@@ -3,7 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 5.1: automatic contrast. Map form, keys "b" (float, black), "w" (float, white) and "a"
+// Automatic contrast. Map form, keys "b" (float, black), "w" (float, white) and "a"
 // (double, alpha flag true when not 0.0), stored straight into the fields. Keeps the base's
 // IsEmpty (false).
 class ZORVAN_SETTINGS_EXPORT SettingsEffectAutoContrast : public Settings {
@@ -29,7 +29,7 @@ public:
     bool GetAlphaIsDisabled() const;
 
 private:
-    // Defaults left open by Part 5.1: no pixels saturated, alpha not disabled.
+    // Neutral defaults: no pixels saturated, alpha not disabled.
     float whiteSaturatedPixels = 0.0F;
     float blackSaturatedPixels = 0.0F;
     bool alphaIsDisabled = false;

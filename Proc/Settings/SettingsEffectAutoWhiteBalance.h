@@ -4,10 +4,10 @@
 
 namespace Zorvan::Proc {
 
-// Part 5.1: automatic white balance. Map form, keys "r", "g", "b" (int, low 8 bits of each,
-// all three or none; packed red lowest, alpha byte 0) and "m" (int, mode). The Part gives
-// this class no setters and no getters ("none in this library"), so it has none: it is
-// filled by Deserialize and read only through the comparison. Keeps the base's IsEmpty.
+// Automatic white balance. Map form, keys "r", "g", "b" (int, low 8 bits of each, all three
+// or none; packed red lowest, alpha byte 0) and "m" (int, mode). No setters and no getters on
+// purpose: it is filled by Deserialize and read only through the comparison. Keeps the
+// base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectAutoWhiteBalance : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -21,7 +21,7 @@ public:
     bool operator==(const SettingsEffectAutoWhiteBalance& other) const;
 
 private:
-    // Defaults left open by Part 5.1: value-initialised (colour 0, mode 0).
+    // Defaults: value-initialised (colour 0, mode 0).
     Color referenceColor = 0;
     int mode = 0;
 };

@@ -8,7 +8,7 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// Part 5.2: every shift is clamped to -100..100.
+// Every shift is clamped to -100..100.
 int ClampShift(int value)
 {
     return Saturate(value, -100, 100);
@@ -61,7 +61,7 @@ void SettingsEffectBalanceChroma::Deserialize(const std::string& options)
         return;
     }
     const auto map = GetOptionsMap(options, s_params);
-    // Part 5.2: the nine ints clamped and stored, in the order of s_params, then the flag.
+    // The nine ints clamped and stored, in the order of s_params, then the flag.
     const auto readShift = [&map](const std::string& key, int& field) {
         if (const auto value = MapForm::Find<int>(map, key)) {
             field = ClampShift(*value);

@@ -7,8 +7,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 5.2: a shadows, midtones and highlights colour shift. Nine ints, each -100..100, and
-// the preserve-luminosity flag. Keys are the static s_<role> strings of Part 1.6.
+// A shadows, midtones and highlights colour shift. Nine ints, each -100..100, and the
+// preserve-luminosity flag. The option keys are the static s_<role> strings.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectBalanceChroma : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -29,7 +29,7 @@ public:
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
     bool IsEqualTo(const Settings& other) const override;
-    // All nine ints are 0; the flag takes no part.
+    // All nine ints are 0; the flag is ignored.
     bool IsEmpty() const override;
     // Map form over s_params: the nine ints by std::stoi, clamped to -100..100 and stored;
     // "preserve-luminosity" by std::stoi, true when not 0. Absent keys leave their fields.

@@ -5,14 +5,13 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: a blur record without its own Deserialize (the base's throws). Compares all ten
-// fields exactly; empty when the fifth field, `radius`, is 0. The names of the nine fields
-// after `algorithm` are left open by Part 6.1.
+// A blur record without its own Deserialize (the base's throws). Compares all ten fields
+// exactly; empty when the fifth field, `radius`, is 0.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectBlur : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Enumerator names are left open by Part 6.1; outside code uses the numbers.
+    // Outside code and saved projects use the numbers, not the enumerator names.
     enum class Algorithm : std::int32_t {
         Box = 0,
         Gaussian = 1,
@@ -20,9 +19,9 @@ public:
         Bilateral = 3,
     };
 
-    // Default constructor (ours, CONVENTIONS.md): the first enumerator and the defaults below.
+    // Default constructor: the first enumerator and the defaults below.
     SettingsEffectBlur();
-    // Part 6.1: the algorithm and the constructor defaults of the other nine fields.
+    // The algorithm and the constructor defaults of the other nine fields.
     explicit SettingsEffectBlur(Algorithm algorithm);
 
     const std::string& GetClassId() const override;

@@ -22,7 +22,7 @@ void SettingsEffectBlurGaussian::Deserialize(const std::string& options)
         return;
     }
     const auto map = GetOptionsMap(options, {"scale", "fast"});
-    // Part 1.1: "scale" and "fast" exclude each other; given both, only the scale is read.
+    // "scale" and "fast" exclude each other; given both, only the scale is read.
     if (const auto found = map.find("scale"); found != map.end()) {
         scale = std::stod(found->second);
         return;

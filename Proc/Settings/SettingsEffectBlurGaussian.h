@@ -3,7 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 1.1: the reference record. Keeps the base's IsEqualTo and IsEmpty.
+// Gaussian blur, keys "scale" and "fast". Keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectBlurGaussian : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -18,8 +18,8 @@ public:
     bool GetFast() const;
 
 private:
-    double scale = 0.0; // default left open by the spec: 0, no blur (neutral)
-    bool fast = false;  // default left open by the spec: the ordinary variant
+    double scale = 0.0; // neutral default: 0, no blur
+    bool fast = false;  // neutral default: the ordinary variant
 };
 
 } // namespace Zorvan::Proc

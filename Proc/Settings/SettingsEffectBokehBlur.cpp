@@ -22,7 +22,7 @@ void SettingsEffectBokehBlur::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.4: stored straight into the fields, in key order.
+    // Stored straight into the fields, in key order.
     const auto map = GetOptionsMap(options, {"size", "exposure", "hdrborder", "intensity"});
     MapForm::Read(map, "size", size);
     MapForm::Read(map, "exposure", exposure);

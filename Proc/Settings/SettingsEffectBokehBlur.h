@@ -6,8 +6,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.4: bokeh blur parameters with the shape of Part 6.1; keeps the base's
-// IsEqualTo and IsEmpty.
+// Bokeh blur: size, exposure, HDR border, an intensity and an optional image. Keeps the
+// base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectBokehBlur : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -28,7 +28,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults are left open by Part 6.4: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     double size = 0.0;
     double exposure = 0.0;
     double hdrBorder = 0.0;

@@ -11,7 +11,8 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// Part 6.4: the noise coefficients, one row per axis (file-scope constants).
+// The noise coefficients, one row per axis; saved projects replay the same shake only with
+// these exact values.
 struct NoiseCoefficients {
     std::uint32_t a;
     std::uint32_t b;
@@ -87,7 +88,7 @@ void SettingsEffectCameraShake::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.4: stored straight into the fields, in key order.
+    // Stored straight into the fields, in key order.
     const auto map = GetOptionsMap(options, {"shiftx", "shifty", "rotate", "freq", "persistence", "intensity"});
     MapForm::Read(map, "shiftx", shiftx);
     MapForm::Read(map, "shifty", shifty);

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.4: the smooth pseudo-random offsets of a shaken camera. Overrides IsEmpty and
-// Deserialize; keeps the base's IsEqualTo.
+// The smooth pseudo-random offsets of a shaken camera. Overrides IsEmpty and Deserialize; keeps
+// the base's IsEqualTo.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectCameraShake : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -27,16 +27,16 @@ public:
     double GetPersistence() const;
     float GetIntensity() const;
 
-    // Part 6.4: integer-hash value noise summed over `octaves` octaves, one coefficient row
-    // per axis; 0.0 when octaves is below 1. They read no field: the result depends only on
-    // the arguments. A position outside the range of a 32-bit int is truncated with
-    // saturation (NaN gives 0), as the double-to-int conversion of 64-bit Arm does.
+    // Integer-hash value noise summed over `octaves` octaves, one coefficient row per axis; 0.0
+    // when octaves is below 1. They read no field: the result depends only on the arguments. A
+    // position outside the range of a 32-bit int is truncated with saturation (NaN gives 0), as
+    // the double-to-int conversion of 64-bit Arm does.
     double GetNoizeX(double time, int octaves, double persistence) const;
     double GetNoizeY(double time, int octaves, double persistence) const;
     double GetNoizeR(double time, int octaves, double persistence) const;
 
 private:
-    // Defaults are left open by Part 6.4: all 0, so that the record is empty (no shake).
+    // Neutral defaults: all 0, so that the record is empty (no shake).
     double shiftx = 0.0;
     double shifty = 0.0;
     double rotate = 0.0;

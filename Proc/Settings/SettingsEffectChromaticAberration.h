@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: chromatic aberration. Map form, key "intensity" (float); compares the intensity
-// exactly; keeps the base's IsEmpty.
+// Chromatic aberration. Map form, key "intensity" (float); compares the intensity exactly;
+// keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectChromaticAberration : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -21,7 +21,7 @@ public:
     float GetIntensity() const;
 
 private:
-    float intensity = 0.0F; // default left open by Part 6.1: 0, the stage changes nothing
+    float intensity = 0.0F; // neutral default: 0, the stage changes nothing
 };
 
 } // namespace Zorvan::Proc

@@ -11,7 +11,7 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// Part 5.2: a slider value computed in double, truncated toward zero to int and clamped to
+// A slider value computed in double, truncated toward zero to int and clamped to
 // -100..100. Clamping before the truncation gives the same result for every number (the
 // bounds are whole) and keeps the conversion within int; a not-a-number value, which the
 // clamped setters never store, gives 0.
@@ -23,7 +23,7 @@ int ToSlider(double value)
     return static_cast<int>(Saturate(value, -100.0, 100.0));
 }
 
-// The SetGamma formula of Part 5.2, in double, clamped to 0.1..10.
+// The SetGamma formula, in double, clamped to 0.1..10.
 double GammaFromSlider(int value)
 {
     const double v = value;
@@ -31,7 +31,7 @@ double GammaFromSlider(int value)
     return Saturate(gamma, 0.1, 10.0);
 }
 
-// The SetSaturation formula of Part 5.2, in double, clamped to 0..3.
+// The SetSaturation formula, in double, clamped to 0..3.
 double SaturationFromSlider(int value)
 {
     const double v = value;
@@ -39,7 +39,7 @@ double SaturationFromSlider(int value)
     return Saturate(factor, 0.0, 3.0);
 }
 
-// Part 5.2, hue normalisation: exactly 180 stays 180; any other v gives r = (v + 180) % 360
+// Hue normalisation: exactly 180 stays 180; any other v gives r = (v + 180) % 360
 // with the sign of the dividend, plus 360 when negative, and r - 180 is stored. v + 180 is
 // computed in 64 bits, so that no value of int overflows.
 int NormaliseHue(int value)
@@ -84,7 +84,7 @@ void SettingsEffectColorBalance::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 5.2: nine int keys in this order, independent of one another.
+    // Nine int keys in this order, independent of one another.
     const auto map =
         GetOptionsMap(options, {"brightness", "contrast", "saturation", "hue", "gamma", "rg", "gg", "bg", "weight"});
     MapForm::Read(map, "brightness", brightness);

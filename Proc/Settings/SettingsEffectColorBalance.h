@@ -3,10 +3,10 @@
 
 namespace Zorvan::Proc {
 
-// Part 5.2: brightness, contrast, saturation, hue and gamma, translated between the user's
-// integer sliders and the values of the filter stage (the getters with `FF` in their names).
+// Brightness, contrast, saturation, hue and gamma, translated between the user's integer
+// sliders and the values of the filter stage (the getters with `FF` in their names).
 // Saturation and gamma are stored as filter factors; GetSaturation and GetGamma compute the
-// slider back. Map form of Part 6.1 with nine int keys, read independently.
+// slider back. Map form with nine int keys, read independently.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectColorBalance : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -15,7 +15,7 @@ public:
     std::unique_ptr<Settings> Clone() const override;
     bool IsEqualTo(const Settings& other) const override;
     // Brightness, contrast, hue and the three channel gammas are 0, saturation and gamma are
-    // nearly 1.0. Weight takes no part.
+    // nearly 1.0. Weight is ignored.
     bool IsEmpty() const override;
     // Keys "brightness", "contrast", "saturation", "hue", "gamma", "rg", "gg", "bg", "weight",
     // each std::stoi in this order. "saturation" and "gamma" go through the SetSaturation and
@@ -41,7 +41,7 @@ public:
     void SetSaturation(int value);
     // The stored factor.
     double GetFFSaturation() const;
-    // Ours (Part 5.2 names no setter of the stored factor): stores a filter factor directly,
+    // Stores a filter factor directly, for callers that hold one rather than a slider value;
     // clamped to 0..3 like the slider setter's result; a not-a-number value is stored as is.
     void SetFFSaturation(double factor);
 
@@ -54,7 +54,7 @@ public:
     void SetGamma(int value);
     // The stored gamma.
     double GetFFGamma() const;
-    // Ours (Part 5.2 names no setter of the stored gamma): stores a filter gamma directly,
+    // Stores a filter gamma directly, for callers that hold one rather than a slider value;
     // clamped to 0.1..10 like the slider setter's result; a not-a-number value is stored as is.
     void SetFFGamma(double filterGamma);
 
@@ -70,7 +70,7 @@ public:
     // Hue is not 0.
     bool IsChromaChanged() const;
 
-    // Plain accessors of the int fields (left open by Part 5.2): stored as given.
+    // Plain accessors of the int fields: stored as given.
     void SetBrightness(int value);
     void SetContrast(int value);
     void SetHue(int value);
@@ -87,7 +87,7 @@ public:
     int GetWeight() const;
 
 private:
-    // Defaults left open by Part 5.2: the neutral record (ints 0, saturation and gamma 1.0).
+    // Neutral defaults: ints 0, saturation and gamma 1.0.
     int brightness = 0;
     int contrast = 0;
     double saturation = 1.0; // filter factor, 0..3, 1 is neutral

@@ -13,7 +13,7 @@ namespace Zorvan::Proc::Curve {
 
 namespace {
 
-// Part 5.3: the tolerance of IsEqualPoints, the float 0.0001 (bits 0x38D1B717).
+// The tolerance of IsEqualPoints, the float 0.0001 (bits 0x38D1B717).
 constexpr float kPointTolerance = std::bit_cast<float>(std::uint32_t{0x38D1B717U});
 
 } // namespace
@@ -139,7 +139,8 @@ bool SettingsEffectColorCurves::operator==(const SettingsEffectColorCurves& othe
     if (curves.size() != other.curves.size()) {
         return false;
     }
-    // Part 5.3: side by side in iteration order, no lookup by key.
+    // Side by side in iteration order, no lookup by key: kept on purpose, the engine has always
+    // compared curves so.
     auto mine = curves.begin();
     auto theirs = other.curves.begin();
     for (; mine != curves.end() && theirs != other.curves.end(); ++mine, ++theirs) {

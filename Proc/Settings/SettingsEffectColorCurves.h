@@ -10,8 +10,8 @@
 
 namespace Zorvan::Proc::Curve {
 
-// Part 5.3: one tone curve, immutable after construction and shared between clones: a
-// value domain (low, high, each within 0..1, low not above high) and the float samples.
+// One tone curve, immutable after construction and shared between clones: a value domain
+// (low, high, each within 0..1, low not above high) and the float samples.
 class ZORVAN_SETTINGS_EXPORT CurvePoints {
 public:
     // The smaller of the pair becomes domain low and the larger domain high, whichever order
@@ -19,7 +19,7 @@ public:
     CurvePoints(std::pair<float, float> domain, std::vector<float> points);
 
     // The same number of points, each pair differing by strictly less than the float 0.0001
-    // (bits 0x38D1B717). The domain takes no part.
+    // (bits 0x38D1B717). The domain is ignored.
     bool IsEqualPoints(const CurvePoints& other) const;
     // IsEqualPoints, and both domain values exactly equal.
     bool operator==(const CurvePoints& other) const;
@@ -40,8 +40,8 @@ private:
 
 namespace Zorvan::Proc {
 
-// Part 5.3: up to four tone curves, one master and one per colour channel, each a shared
-// pointer to an immutable Curve::CurvePoints. Clone copies the map and shares the curves.
+// Up to four tone curves, one master and one per colour channel, each a shared pointer to an
+// immutable Curve::CurvePoints. Clone copies the map and shares the curves.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectColorCurves : public Settings {
 public:
     enum class CurveType : std::int32_t {

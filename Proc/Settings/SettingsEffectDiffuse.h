@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: diffuse. Map form, keys "level" (double), "probability" (double), "intensity"
-// (float); keeps the base's IsEqualTo and IsEmpty.
+// Diffuse. Map form, keys "level" (double), "probability" (double), "intensity" (float);
+// keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectDiffuse : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -14,14 +14,14 @@ public:
     void Deserialize(const std::string& options) override;
 
     void SetParams(double level, double probability);
-    void SetIntensity(float intensity); // plain store (left open by Part 6.1)
+    void SetIntensity(float intensity); // plain store
 
     double GetLevel() const;
     double GetProbability() const;
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     double level = 0.0;
     double probability = 0.0;
     float intensity = 0.0F;

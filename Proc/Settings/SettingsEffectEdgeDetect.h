@@ -3,9 +3,9 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: edge detection, two ints and a bool: two thresholds and an invert flag (the names
-// are left open by Part 6.1). A hyphen row of Part 1.5: it keeps the base's IsEqualTo, IsEmpty
-// and Deserialize, and offers the public, non-virtual operator== of Part 6.1.
+// Edge detection, two ints and a bool: two thresholds and an invert flag. It keeps the base's
+// IsEqualTo, IsEmpty and Deserialize; callers compare two records with the public,
+// non-virtual operator==.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectEdgeDetect : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -13,7 +13,7 @@ public:
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
 
-    // Part 6.1: the two ints and the bool, exact, in that order.
+    // The two ints and the bool, exact, in that order.
     bool operator==(const SettingsEffectEdgeDetect& other) const;
 
     void SetLowThreshold(int lowThreshold);
@@ -25,7 +25,7 @@ public:
     bool GetInvert() const;
 
 private:
-    // Defaults left open by Part 6.1: 0, 0 and false.
+    // Neutral defaults: 0, 0 and false.
     int lowThreshold = 0;
     int highThreshold = 0;
     bool invert = false;

@@ -3,9 +3,9 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: emboss, two ints and a bool: angle, depth and a grey-only flag (the names are left
-// open by Part 6.1). A hyphen row of Part 1.5: it keeps the base's IsEqualTo, IsEmpty and
-// Deserialize, and offers the public, non-virtual operator== of Part 6.1.
+// Emboss, two ints and a bool: angle, depth and a grey-only flag. It keeps the base's
+// IsEqualTo, IsEmpty and Deserialize; callers compare two records with the public,
+// non-virtual operator==.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectEmboss : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -13,7 +13,7 @@ public:
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
 
-    // Part 6.1: the two ints and the bool, exact, in that order.
+    // The two ints and the bool, exact, in that order.
     bool operator==(const SettingsEffectEmboss& other) const;
 
     void SetAngle(int angle);
@@ -25,7 +25,7 @@ public:
     bool GetGrayscale() const;
 
 private:
-    // Defaults left open by Part 6.1: 0, 0 and false.
+    // Neutral defaults: 0, 0 and false.
     int angle = 0;
     int depth = 0;
     bool grayscale = false;

@@ -5,13 +5,12 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: film strip, one field `type`. A hyphen row of Part 1.5: it keeps the base's
-// IsEqualTo, IsEmpty and Deserialize.
+// Film strip, one field `type`. It keeps the base's IsEqualTo, IsEmpty and Deserialize.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectFilmStrip : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Enumerator names are left open by Part 6.1; outside code uses the numbers.
+    // Outside code and saved projects use the numbers, not the enumerator names.
     enum class Type : std::int32_t {
         Horizontal = 0,
         Vertical = 1,
@@ -24,7 +23,7 @@ public:
     Type GetType() const;
 
 private:
-    Type type = Type::Horizontal; // default left open by Part 6.1: the first enumerator
+    Type type = Type::Horizontal; // default: the first enumerator
 };
 
 } // namespace Zorvan::Proc

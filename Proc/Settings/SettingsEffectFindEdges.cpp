@@ -22,7 +22,8 @@ void SettingsEffectFindEdges::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.1: the key order (blend, sensibility, type) is not the field order.
+    // The key order (blend, sensibility, type) is not the field order: saved presets list the
+    // keys so.
     const auto map = GetOptionsMap(options, {"blend", "sensibility", "type"});
     MapForm::Read(map, "blend", blend);
     MapForm::Read(map, "sensibility", sensibility);

@@ -5,14 +5,14 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: find edges. Map form, keys "blend" (double), "sensibility" (double), "type" (int
-// into `Type`); the fields are declared type, blend, sensibility. Keeps the base's IsEqualTo
-// and IsEmpty.
+// Find edges. Map form, keys "blend" (double), "sensibility" (double), "type" (int into
+// `Type`); the fields are declared type, blend, sensibility. Keeps the base's IsEqualTo and
+// IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectFindEdges : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Enumerator names are left open by Part 6.1; outside code uses the numbers.
+    // Outside code and saved projects use the numbers, not the enumerator names.
     enum class Type : std::int32_t {
         Sobel = 0,
         Prewitt = 1,
@@ -30,9 +30,9 @@ public:
     double GetSensibility() const;
 
 private:
-    Type type = Type::Sobel;  // default left open by Part 6.1: the first enumerator
-    double blend = 0.0;       // default left open by Part 6.1: 0, nothing of the edges blended in
-    double sensibility = 0.0; // default left open by Part 6.1: 0
+    Type type = Type::Sobel;  // default: the first enumerator
+    double blend = 0.0;       // neutral default: 0, nothing of the edges blended in
+    double sensibility = 0.0; // default: 0
 };
 
 } // namespace Zorvan::Proc

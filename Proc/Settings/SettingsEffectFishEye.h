@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: fish eye. Map form, keys "deviation" (double), "intensity" (float); compares
-// both fields exactly; keeps the base's IsEmpty.
+// Fish eye. Map form, keys "deviation" (double), "intensity" (float); compares both fields
+// exactly; keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectFishEye : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -24,7 +24,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     double deviation = 0.0;
     float intensity = 0.0F;
 };

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: glass mosaic. Map form, keys "angle", "curve", "repeatsh", "repeatsv" (double),
-// "intensity" (float); keeps the base's IsEqualTo and IsEmpty.
+// Glass mosaic. Map form, keys "angle", "curve", "repeatsh", "repeatsv" (double), "intensity"
+// (float); keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectGlassMosaic : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -14,11 +14,11 @@ public:
     void Deserialize(const std::string& options) override;
 
     void SetParams(double angle, double curve, double repeatsh, double repeatsv);
-    void SetIntensity(float intensity); // plain store (left open by Part 6.1)
+    void SetIntensity(float intensity); // plain store
 
     double GetAngle() const;
-    // Part 6.1, computed: std::fma(curve - 0.5, intensity widened to double, 0.5); 0.5 at
-    // intensity 0, the field at intensity 1. It takes the name of the field getter, so the
+    // Computed for the renderer: std::fma(curve - 0.5, intensity widened to double, 0.5); 0.5
+    // at intensity 0, the field at intensity 1. It takes the name of the field getter, so the
     // field curve has no plain getter.
     double GetCurve() const;
     double GetRepeatsh() const;
@@ -26,7 +26,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     double angle = 0.0;
     double curve = 0.0;
     double repeatsh = 0.0;

@@ -33,7 +33,7 @@ void SettingsEffectGlitchMpeg::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.4: the value goes through the setter, so its check applies.
+    // The value goes through the setter, so its check applies.
     const auto map = GetOptionsMap(options, {"intensity"});
     if (const auto value = MapForm::Find<float>(map, "intensity")) {
         SetIntensity(*value);

@@ -5,8 +5,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.4: MPEG-artefact glitch. Overrides IsEqualTo (intensity only, exact), IsEmpty
-// (intensity near zero) and Deserialize (through SetIntensity).
+// MPEG-artefact glitch. Overrides IsEqualTo (intensity only, exact), IsEmpty (intensity near
+// zero) and Deserialize (through SetIntensity).
 class ZORVAN_SETTINGS_EXPORT SettingsEffectGlitchMpeg : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -17,7 +17,7 @@ public:
     bool IsEmpty() const override;
     void Deserialize(const std::string& options) override;
 
-    // Intensity exact; the three private parameters take no part in it.
+    // Intensity exact; the three private parameters are not compared.
     bool operator==(const SettingsEffectGlitchMpeg& other) const;
 
     // Throws SettingsException "Invalid intensity value. Must be greater or equal 0.0" below
@@ -25,13 +25,13 @@ public:
     void SetIntensity(float intensity);
     float GetIntensity() const;
 
-    // The three unnamed bools of Part 6.4, in declared order; no key reads them.
+    // Three unnamed bools, in declared order; no key reads them.
     void SetPrivateParameters(bool first, bool second, bool third);
     std::array<bool, 3> GetPrivateParameters() const;
 
 private:
-    float intensity = 0.0F; // default left open by Part 6.4: 0, the stage changes nothing
-    // Names and defaults left open by Part 6.4: false.
+    float intensity = 0.0F; // neutral default: 0, the stage changes nothing
+    // Defaults: false.
     bool privateFirst = false;
     bool privateSecond = false;
     bool privateThird = false;

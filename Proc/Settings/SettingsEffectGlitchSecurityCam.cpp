@@ -28,7 +28,7 @@ void SettingsEffectGlitchSecurityCam::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.4: the values go through the setters, so their checks apply.
+    // The values go through the setters, so their checks apply.
     const auto map = GetOptionsMap(options, {"intensity", "randDist", "constDist"});
     if (const auto value = MapForm::Find<float>(map, "intensity")) {
         SetIntensity(*value);

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.4: security-camera glitch. Overrides IsEqualTo (all three fields, exact) and
-// Deserialize (through the checking setters); keeps the base's IsEmpty.
+// Security-camera glitch. Overrides IsEqualTo (all three fields, exact) and Deserialize
+// (through the checking setters); keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectGlitchSecurityCam : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -30,7 +30,7 @@ public:
     float GetConstDistortion() const;
 
 private:
-    // Defaults are left open by Part 6.4: 0, within every range; the stage changes nothing.
+    // Neutral defaults: 0, within every range; the stage changes nothing.
     float intensity = 0.0F;
     float randDistortion = 0.0F;
     float constDistortion = 0.0F;

@@ -44,7 +44,7 @@ void SettingsEffectHalfTone::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.3: ten keys; the two colours are groups, the rest independent.
+    // Ten keys; the two colours are groups, the rest independent.
     const auto map = GetOptionsMap(
         options, {"rbg", "gbg", "bbg", "rdot", "gdot", "bdot", "colorsize", "threshold", "dotsize", "angle"});
     ReadColorGroup(map, {"rbg", "gbg", "bbg"}, backgroundColor);

@@ -4,8 +4,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.3: a dot screen in two colours. Overrides IsEqualTo (all six fields, exact) and
-// Deserialize; keeps the base's IsEmpty.
+// A dot screen in two colours. Overrides IsEqualTo (all six fields, exact) and Deserialize;
+// keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectHalfTone : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -18,7 +18,8 @@ public:
     // All six fields exact, in field order.
     bool operator==(const SettingsEffectHalfTone& other) const;
 
-    // Plain stores. The setters say "Colour" (Part 6.3) while the key says "colorsize".
+    // Plain stores. The setters say "Colour" while the key and the getter say "color": both
+    // spellings are kept on purpose, callers and saved presets use each.
     void SetParam(double colourSize, double threshold, double dotSize, int angle);
     void SetColourSize(double colourSize);
     void SetThreshold(double threshold);
@@ -36,8 +37,8 @@ public:
     int GetAngle() const;
 
 private:
-    // Defaults are left open by Part 6.3; the effect has no strength that would switch it
-    // off, so the record is value-initialised: everything 0.
+    // The effect has no strength that would switch it off, so the record is value-initialised:
+    // everything 0.
     Color backgroundColor = 0;
     Color dotColor = 0;
     double colorSize = 0.0;

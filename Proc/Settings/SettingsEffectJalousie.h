@@ -3,8 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: jalousie, one field `thickness`. A hyphen row of Part 1.5: it keeps the base's
-// IsEqualTo, IsEmpty and Deserialize.
+// Jalousie, one field `thickness`. It keeps the base's IsEqualTo, IsEmpty and Deserialize.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectJalousie : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -16,7 +15,7 @@ public:
     unsigned int GetThickness() const;
 
 private:
-    unsigned int thickness = 0; // default left open by Part 6.1: 0, no slats
+    unsigned int thickness = 0; // neutral default: 0, no slats
 };
 
 } // namespace Zorvan::Proc

@@ -8,7 +8,7 @@ namespace Zorvan::Proc {
 const std::string SettingsEffectLensDistortion::CLASS_ID ZORVAN_INIT_STRINGS = "EffectLensDistortion";
 
 SettingsEffectLensDistortion::SettingsEffectLensDistortion()
-    : SettingsEffectLensDistortion(0.0, 0.0, 0) // defaults left open by Part 6.1: no zoom, no distortion
+    : SettingsEffectLensDistortion(0.0, 0.0, 0) // neutral defaults: no zoom, no distortion
 {
 }
 

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: lens flare. Map form, keys "preset" (int), "intensity" (float); keeps the base's
-// IsEqualTo and IsEmpty.
+// Lens flare. Map form, keys "preset" (int), "intensity" (float); keeps the base's IsEqualTo
+// and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectLensFlare : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -13,14 +13,14 @@ public:
     std::unique_ptr<Settings> Clone() const override;
     void Deserialize(const std::string& options) override;
 
-    void SetPreset(int preset); // plain store (left open by Part 6.1)
+    void SetPreset(int preset); // plain store
     void SetIntensity(float intensity);
 
     int GetPreset() const;
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: preset 0, intensity 0, the stage changes nothing.
+    // Neutral defaults: preset 0, intensity 0, the stage changes nothing.
     int preset = 0;
     float intensity = 0.0F;
 };

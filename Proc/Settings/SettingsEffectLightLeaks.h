@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: light leaks. Map form, keys "preset" (int), "intensity" (float); compares both
-// fields exactly; keeps the base's IsEmpty.
+// Light leaks. Map form, keys "preset" (int), "intensity" (float); compares both fields
+// exactly; keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectLightLeaks : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -17,14 +17,14 @@ public:
     // Preset and intensity, exact.
     bool operator==(const SettingsEffectLightLeaks& other) const;
 
-    void SetPreset(int preset); // plain store (left open by Part 6.1)
+    void SetPreset(int preset); // plain store
     void SetIntensity(float intensity);
 
     int GetPreset() const;
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: preset 0, intensity 0, the stage changes nothing.
+    // Neutral defaults: preset 0, intensity 0, the stage changes nothing.
     int preset = 0;
     float intensity = 0.0F;
 };

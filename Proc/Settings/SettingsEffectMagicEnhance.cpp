@@ -35,10 +35,10 @@ std::uint32_t Threshold(const Histogram& histogram)
     return Total(histogram) >> 14U;
 }
 
-// Part 5.1, tail scan: the low edge is the first bin from 0 upward at which the running sum
-// is strictly above T, the high edge the same from 255 downward; a running sum not above T
-// continues the scan. A histogram whose sums never rise above T (total 0) is outside the
-// Part's contract; here the scan stops at the end of the array (low 255, high 0).
+// Tail scan: the low edge is the first bin from 0 upward at which the running sum is strictly
+// above T, the high edge the same from 255 downward; a running sum not above T continues the
+// scan. A histogram whose sums never rise above T (total 0) is not a valid input; here the
+// scan stops at the end of the array (low 255, high 0).
 Edges TailScan(const Histogram& histogram, std::uint32_t threshold)
 {
     int low = 0;
@@ -140,8 +140,8 @@ void CustomAutoWiteBalance(const Histogram& first, const Histogram& second, int&
     const std::uint32_t threshold = total >> 14U;
     const Edges edges1 = TailScan(first, threshold);
     const Edges edges2 = TailScan(second, threshold);
-    // The first histogram's total divides both means. A total of 0 is outside the Part's
-    // contract; the means are then taken as 0 rather than divided by zero.
+    // The first histogram's total divides both means. A total of 0 is not a valid input; the
+    // means are then taken as 0 rather than divided by zero.
     const std::uint32_t mean1 = total != 0 ? WeightedSum(first) / total : 0;
     const std::uint32_t mean2 = total != 0 ? WeightedSum(second) / total : 0;
     const int spread = (std::abs(edges1.high - edges2.high) + std::abs(edges1.low - edges2.low)) >> 1;

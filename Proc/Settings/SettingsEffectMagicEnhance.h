@@ -6,10 +6,10 @@
 
 namespace Zorvan::Proc {
 
-// Part 5.1: one-button enhancement. For each of three corrections (contrast, white balance,
-// saturation) either manual values or an automatic strength (a force); for an automatic
-// choice the getters hand the engine a function that derives the correction from histograms.
-// Configured by setters alone: keeps the base's Deserialize (throws) and IsEmpty (false).
+// One-button enhancement. For each of three corrections (contrast, white balance, saturation)
+// either manual values or an automatic strength (a force); for an automatic choice the getters
+// hand the engine a function that derives the correction from histograms. Configured by setters
+// alone: keeps the base's Deserialize (throws) and IsEmpty (false).
 class ZORVAN_SETTINGS_EXPORT SettingsEffectMagicEnhance : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -31,10 +31,10 @@ public:
     std::unique_ptr<Settings> Clone() const override;
     bool IsEqualTo(const Settings& other) const override;
 
-    // Part 5.1, in this order, stopping at the first difference: contrastForce, and when it
-    // is 0 brightness, contrast, the two further ints and gamma (exact); whiteBalanceForce,
-    // and when it is 0 temperature and tint; saturationForce, and when it is 0 saturation
-    // within 0.001 (at most; a NaN fails); the last field, exact.
+    // In this order, stopping at the first difference: contrastForce, and when it is 0
+    // brightness, contrast, the two further ints and gamma (exact); whiteBalanceForce, and when
+    // it is 0 temperature and tint; saturationForce, and when it is 0 saturation within 0.001
+    // (at most; a NaN fails); the last field, exact.
     bool operator==(const SettingsEffectMagicEnhance& other) const;
 
     // Plain stores; they do not touch the force fields.
@@ -45,8 +45,7 @@ public:
     void SetTint(int value);
     void SetSaturation(double value);
 
-    // Part 5.1 leaves the accessors of the force fields, of the two further ints and of the
-    // last field open (it has no setter for them): plain stores, unchecked.
+    // The force fields, the two further ints and the last field: plain stores, unchecked.
     void SetContrastForce(std::uint32_t value);
     void SetWhiteBalanceForce(std::uint32_t value);
     void SetSaturationForce(std::uint32_t value);
@@ -80,15 +79,15 @@ private:
     std::uint32_t contrastForce = 0; // 0 manual; 1 and 2 index g_customContrastTable
     int brightness = 0;
     int contrast = 0;
-    int furtherInt1 = 0; // unnamed by Part 5.1: a manual value of the contrast group
-    int furtherInt2 = 0; // unnamed by Part 5.1: a manual value of the contrast group
+    int furtherInt1 = 0; // unnamed manual value of the contrast group
+    int furtherInt2 = 0; // unnamed manual value of the contrast group
     double gamma = 1.0;
     std::uint32_t whiteBalanceForce = 0; // 0 manual; any other value: automatic balance
     int temperature = 0;
     int tint = 0;
     std::uint32_t saturationForce = 0; // 0 manual; 1 and 2 index g_customSaturationForce
     double saturation = 1.0;
-    int lastInt = 0; // unnamed by Part 5.1: compared always
+    int lastInt = 0; // unnamed; compared always
 };
 
 } // namespace Zorvan::Proc

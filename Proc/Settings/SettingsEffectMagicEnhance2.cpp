@@ -34,7 +34,7 @@ void SettingsEffectMagicEnhance2::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 5.1: stored straight into the fields, past the setters' clamp.
+    // Stored straight into the fields, past the setters' clamp: saved presets load as written.
     const auto map = GetOptionsMap(options, {"b", "w"});
     MapForm::Read(map, "b", blackSaturatedPixels);
     MapForm::Read(map, "w", whiteSaturatedPixels);

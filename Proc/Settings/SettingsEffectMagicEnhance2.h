@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 5.1: the plain enhancement record. Map form, keys "b" (float, black) and "w" (float,
-// white), stored straight into the fields. IsEmpty is always false.
+// The plain enhancement record. Map form, keys "b" (float, black) and "w" (float, white),
+// stored straight into the fields. IsEmpty is always false.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectMagicEnhance2 : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -27,7 +27,7 @@ public:
     float GetBlackSaturatedPixels() const;
 
 private:
-    // Defaults left open by Part 5.1: no pixels saturated.
+    // Neutral defaults: no pixels saturated.
     float whiteSaturatedPixels = 0.0F;
     float blackSaturatedPixels = 0.0F;
 };

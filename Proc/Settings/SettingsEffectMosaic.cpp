@@ -10,7 +10,8 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// Part 6.1: all steps in float, the multiplication and subtraction fused.
+// All steps in float, the multiplication and subtraction fused, as the renderer computes
+// the amounts.
 int ComputeAmount(int n, int amount, float intensity)
 {
     const float p = std::pow(intensity, 0.2F);

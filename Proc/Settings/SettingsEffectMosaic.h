@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: mosaic. Map form, keys "type", "amountVer", "amountHor" (int), "intensity"
-// (float); keeps the base's IsEqualTo and IsEmpty.
+// Mosaic. Map form, keys "type", "amountVer", "amountHor" (int), "intensity" (float); keeps
+// the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectMosaic : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -13,27 +13,27 @@ public:
     std::unique_ptr<Settings> Clone() const override;
     void Deserialize(const std::string& options) override;
 
-    // Part 6.1: the first argument goes into amountHor, the second into amountVer, the
-    // reverse of the field order.
+    // The first argument goes into amountHor, the second into amountVer, the reverse of the
+    // field order; kept so for the callers that rely on it.
     void SetAmount(int amountHor, int amountVer);
-    void SetType(int type);             // plain store (left open by Part 6.1)
-    void SetIntensity(float intensity); // plain store (left open by Part 6.1)
+    void SetType(int type);             // plain store
+    void SetIntensity(float intensity); // plain store
 
     int GetType() const;
     float GetIntensity() const;
-    // Part 6.1, computed in float from the field amountVer / amountHor (a) and the frame
-    // extent n: p = powf(intensity, 0.2f); n - (n - a) * p in one fused step; truncated
-    // toward zero; anything not above 1 (NaN included) is 1, anything beyond int is INT_MAX.
+    // Computed in float from the field amountVer / amountHor (a) and the frame extent n:
+    // p = powf(intensity, 0.2f); n - (n - a) * p in one fused step; truncated toward zero;
+    // anything not above 1 (NaN included) is 1, anything beyond int is INT_MAX.
     int GetAmountVer(int n) const;
     int GetAmountHor(int n) const;
-    // The stored fields (CONVENTIONS.md: every field has a getter), overloads beside the
-    // computed getters of Part 6.1, which take a frame extent.
+    // The stored fields, overloads beside the computed getters above, which take a frame
+    // extent.
     int GetAmountVer() const;
     int GetAmountHor() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0; at intensity 0 both amounts compute to n, the
-    // stage changes nothing.
+    // Neutral defaults: all 0; at intensity 0 both amounts compute to n, the stage changes
+    // nothing.
     int type = 0;
     int amountVer = 0;
     int amountHor = 0;

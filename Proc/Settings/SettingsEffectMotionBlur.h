@@ -3,7 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: motion blur. Map form, key "scale" (double); keeps the base's IsEqualTo and IsEmpty.
+// Motion blur. Map form, key "scale" (double); keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectMotionBlur : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -12,11 +12,11 @@ public:
     std::unique_ptr<Settings> Clone() const override;
     void Deserialize(const std::string& options) override;
 
-    void SetScale(double scale); // plain store (left open by Part 6.1)
+    void SetScale(double scale); // plain store
     double GetScale() const;
 
 private:
-    double scale = 0.0; // default left open by Part 6.1: 0, no blur
+    double scale = 0.0; // neutral default: 0, no blur
 };
 
 } // namespace Zorvan::Proc

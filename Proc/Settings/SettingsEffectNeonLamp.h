@@ -4,9 +4,9 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: neon lamp. Reads "r", "g", "b" (unsigned 8-bit) and "intensity" (double) with
-// GetOption, not through the map. Compares intensity and colour exactly; IsEmpty is
-// overridden and always false.
+// Neon lamp. Reads "r", "g", "b" (unsigned 8-bit) and "intensity" (double) with GetOption,
+// not through the map. Compares intensity and colour exactly; IsEmpty is overridden and
+// always false.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectNeonLamp : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -14,7 +14,7 @@ public:
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
     bool IsEqualTo(const Settings& other) const override;
-    bool IsEmpty() const override; // Part 6.1: always false, though overridden
+    bool IsEmpty() const override; // always false, though overridden; kept so on purpose
     // The colour changes only when "r", "g" and "b" are all present (alpha 255, red lowest);
     // "intensity" is clamped to 0..1 as SetIntensity does.
     void Deserialize(const std::string& options) override;
@@ -30,8 +30,8 @@ public:
     Color GetColor() const;
 
 private:
-    double intensity = 0.0; // default left open by Part 6.1: 0, the stage changes nothing
-    Color color = 0;        // default left open by Part 6.1: 0 (all four bytes)
+    double intensity = 0.0; // neutral default: 0, the stage changes nothing
+    Color color = 0;        // default: 0 (all four bytes)
 };
 
 } // namespace Zorvan::Proc

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: oil paint. Map form, keys "radius" (int), "intensity" (float); compares both
-// fields exactly; empty when the radius is 0 or the intensity is near zero.
+// Oil paint. Map form, keys "radius" (int), "intensity" (float); compares both fields
+// exactly; empty when the radius is 0 or the intensity is near zero.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectOilPaint : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -18,14 +18,14 @@ public:
     // Radius and intensity, exact.
     bool operator==(const SettingsEffectOilPaint& other) const;
 
-    void SetRadius(int radius);         // plain store (left open by Part 6.1)
-    void SetIntensity(float intensity); // plain store (left open by Part 6.1)
+    void SetRadius(int radius);         // plain store
+    void SetIntensity(float intensity); // plain store
 
     int GetRadius() const;
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing (and is empty).
+    // Neutral defaults: all 0, the stage changes nothing (and is empty).
     int radius = 0;
     float intensity = 0.0F;
 };

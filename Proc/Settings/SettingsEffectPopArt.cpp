@@ -28,8 +28,8 @@ void SettingsEffectPopArt::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.3: ten independent keys, in this order ("resize" before "intensity", unlike
-    // the field order).
+    // Ten independent keys, in this order ("resize" before "intensity", unlike the field
+    // order), as saved presets list them.
     const auto map = GetOptionsMap(
         options, {"saturation", "hue", "offset", "scale", "levels", "nv", "nh", "invert", "resize", "intensity"});
     MapForm::Read(map, "saturation", saturation);

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.3: a grid of posterised colour variations. Overrides IsEqualTo (all ten fields,
-// exact) and Deserialize; keeps the base's IsEmpty.
+// A grid of posterised colour variations. Overrides IsEqualTo (all ten fields, exact) and
+// Deserialize; keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectPopArt : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -35,10 +35,10 @@ public:
     double GetHue() const;
     double GetOffset() const;
     double GetScale() const;
-    // Part 6.3: levels times intensity in float, truncated toward zero; anything not above 1
-    // (NaN included) yields 1; a product at or above 2^31 saturates to the largest int.
+    // Levels times intensity in float, truncated toward zero; anything not above 1 (NaN
+    // included) yields 1; a product at or above 2^31 saturates to the largest int.
     int GetLevels() const;
-    // The stored levels field (GetLevels is the calculation the spec names).
+    // The stored levels field; GetLevels gives the computed count.
     int GetStoredLevels() const;
     int GetAmountVertical() const;
     int GetAmountHorizontal() const;
@@ -47,16 +47,16 @@ public:
     int GetResize() const;
 
 private:
-    // Defaults are left open by Part 6.3; intensity 0 is the neutral one.
+    // Neutral defaults: intensity 0 leaves the picture unchanged.
     double saturation = 0.0;
     double hue = 0.0;
     double offset = 0.0;
-    double scale = 1.0;       // default left open: 1, no scaling
-    int levels = 0;           // default left open: 0, GetLevels then yields 1
-    int amountVertical = 1;   // default left open: one tile down
-    int amountHorizontal = 1; // default left open: one tile across
+    double scale = 1.0;       // neutral default: 1, no scaling
+    int levels = 0;           // default: 0, GetLevels then yields 1
+    int amountVertical = 1;   // default: one tile down
+    int amountHorizontal = 1; // default: one tile across
     bool invert = false;
-    float intensity = 0.0F; // default left open: 0, the stage changes nothing
+    float intensity = 0.0F; // neutral default: 0, the stage changes nothing
     int resize = 0;
 };
 

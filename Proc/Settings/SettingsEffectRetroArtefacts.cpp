@@ -28,8 +28,8 @@ void SettingsEffectRetroArtefacts::Deserialize(const std::string& options)
         return;
     }
     const auto map = GetOptionsMap(options, {"shake", "vignetting", "grain", "scratches", "rollerTrack", "intensity"});
-    MapForm::ReadExactlyOne(map, "shake", shake);           // Part 6.1: 2 means false
-    MapForm::ReadExactlyOne(map, "vignetting", vignetting); // Part 6.1: 2 means false
+    MapForm::ReadExactlyOne(map, "shake", shake);           // 2 means false, kept for saved presets
+    MapForm::ReadExactlyOne(map, "vignetting", vignetting); // 2 means false, kept for saved presets
     MapForm::Read(map, "grain", grain);
     MapForm::Read(map, "scratches", scratches);
     MapForm::Read(map, "rollerTrack", rollerTrack);

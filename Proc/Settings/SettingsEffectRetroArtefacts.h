@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: retro artefacts. Map form, keys "shake", "vignetting" (int, true only when exactly
-// 1), "grain", "scratches", "rollerTrack" (int), "intensity" (float). Compares all six fields
+// Retro artefacts. Map form, keys "shake", "vignetting" (int, true only when exactly 1),
+// "grain", "scratches", "rollerTrack" (int), "intensity" (float). Compares all six fields
 // exactly; keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectRetroArtefacts : public Settings {
 public:
@@ -18,7 +18,7 @@ public:
     // All six fields, exact, in field order.
     bool operator==(const SettingsEffectRetroArtefacts& other) const;
 
-    // Plain stores (left open by Part 6.1), except SetIntensity, which the Part names.
+    // Plain stores.
     void SetShake(bool shake);
     void SetVignetting(bool vignetting);
     void SetGrain(int grain);
@@ -34,7 +34,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all off and 0, the stage changes nothing.
+    // Neutral defaults: all off and 0, the stage changes nothing.
     bool shake = false;
     bool vignetting = false;
     int grain = 0;

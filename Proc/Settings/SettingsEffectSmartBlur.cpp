@@ -8,7 +8,7 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// a - b in unsigned 32-bit wrap-around: no signed overflow (CONVENTIONS.md).
+// a - b in unsigned 32-bit wrap-around: no signed overflow.
 std::uint32_t Difference(int a, int b)
 {
     return static_cast<std::uint32_t>(a) - static_cast<std::uint32_t>(b);

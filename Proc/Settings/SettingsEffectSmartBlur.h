@@ -3,10 +3,9 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: smart blur, eight ints (names left open by Part 6.1: a radius, a threshold, a
-// region given by its right and bottom edges after its left and top edges, a quality and a
-// mode). A hyphen row of Part 1.5: it keeps the base's IsEqualTo, IsEmpty and Deserialize,
-// and offers the public, non-virtual operator== of Part 6.1.
+// Smart blur, eight ints: a radius, a threshold, a region given by its right and bottom edges
+// after its left and top edges, a quality and a mode. It keeps the base's IsEqualTo, IsEmpty
+// and Deserialize; callers compare two records with the public, non-virtual operator==.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectSmartBlur : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -14,9 +13,9 @@ public:
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
 
-    // Part 6.1: ints 1, 2, 7, 8 directly; 3 and 4 only through their differences from 5 and
-    // 6 (right - left, bottom - top, in 32-bit wrap-around), so a region shifted as a whole
-    // compares equal.
+    // Ints 1, 2, 7, 8 directly; 3 and 4 only through their differences from 5 and 6 (right -
+    // left, bottom - top, in 32-bit wrap-around), so a region shifted as a whole compares
+    // equal; kept so on purpose.
     bool operator==(const SettingsEffectSmartBlur& other) const;
 
     void SetRadius(int radius);
@@ -38,7 +37,7 @@ public:
     int GetMode() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     int radius = 0;
     int threshold = 0;
     int right = 0;

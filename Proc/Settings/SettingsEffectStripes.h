@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: stripes. Map form, keys "count" (int), "deep" (double), "intensity" (float);
-// empty when the intensity is near zero or the count is 0; keeps the base's IsEqualTo.
+// Stripes. Map form, keys "count" (int), "deep" (double), "intensity" (float); empty when the
+// intensity is near zero or the count is 0; keeps the base's IsEqualTo.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectStripes : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -23,7 +23,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing (and is empty).
+    // Neutral defaults: all 0, the stage changes nothing (and is empty).
     int count = 0;
     double deep = 0.0;
     float intensity = 0.0F;

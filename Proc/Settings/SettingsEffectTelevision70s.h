@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: seventies television. Map form, keys "intensity", "stripesWidth" (float); compares
-// both fields exactly; keeps the base's IsEmpty.
+// Seventies television. Map form, keys "intensity", "stripesWidth" (float); compares both
+// fields exactly; keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectTelevision70s : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -24,7 +24,7 @@ public:
     float GetStripesWidth() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     float intensity = 0.0F;
     float stripesWidth = 0.0F;
 };

@@ -37,7 +37,7 @@ void SettingsEffectTiltShiftVEZ::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.4: each line is a group; "smoothness" and "blurness" are independent.
+    // Each line is a group; "smoothness" and "blurness" are independent.
     const auto map = GetOptionsMap(options, {"ua", "ub", "uc", "la", "lb", "lc", "smoothness", "blurness"});
     ReadLineGroup(map, {"ua", "ub", "uc"}, upperLine);
     ReadLineGroup(map, {"la", "lb", "lc"}, lowerLine);

@@ -5,8 +5,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.4: tilt shift between an upper and a lower line. Overrides Deserialize only: the
-// base's IsEqualTo throws and its IsEmpty is false.
+// Tilt shift between an upper and a lower line. Overrides Deserialize only: the base's
+// IsEqualTo throws and its IsEmpty is false.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectTiltShiftVEZ : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -27,7 +27,7 @@ public:
     double GetBlurness() const;
 
 private:
-    // Defaults are left open by Part 6.4: all 0; blurness 0 blurs nothing.
+    // Neutral defaults: all 0; blurness 0 blurs nothing.
     std::array<double, 3> upperLine{};
     std::array<double, 3> lowerLine{};
     double smoothness = 0.0;

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: twirl. Map form, keys "rt0", "vr", "tt0", "vt" (double), "intensity" (float);
-// keeps the base's IsEqualTo and IsEmpty.
+// Twirl. Map form, keys "rt0", "vr", "tt0", "vt" (double), "intensity" (float); keeps the
+// base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectTwirl : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -14,7 +14,7 @@ public:
     void Deserialize(const std::string& options) override;
 
     void SetParams(double rt0, double vr, double tt0, double vt);
-    void SetIntensity(float intensity); // plain store (left open by Part 6.1)
+    void SetIntensity(float intensity); // plain store
 
     double GetRt0() const;
     double GetVr() const;
@@ -23,7 +23,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     double rt0 = 0.0;
     double vr = 0.0;
     double tt0 = 0.0;

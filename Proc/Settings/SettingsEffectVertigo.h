@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.1: vertigo. Map form, keys "scale", "speed", "intensity", all double (the intensity
-// is a double here, unlike the float of most of the family); keeps the base's IsEqualTo and
+// Vertigo. Map form, keys "scale", "speed", "intensity", all double (the intensity is a
+// double here, unlike the float of most of the family); keeps the base's IsEqualTo and
 // IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectVertigo : public Settings {
 public:
@@ -22,7 +22,7 @@ public:
     double GetIntensity() const;
 
 private:
-    // Defaults left open by Part 6.1: all 0, the stage changes nothing.
+    // Neutral defaults: all 0, the stage changes nothing.
     double scale = 0.0;
     double speed = 0.0;
     double intensity = 0.0;

@@ -27,7 +27,7 @@ void SettingsEffectVignetteFilter::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 6.2: twelve keys; "r", "g", "b", "a" are one group, all others independent.
+    // Twelve keys; "r", "g", "b", "a" are one group, all others independent.
     const auto map =
         GetOptionsMap(options, {"form", "smooth", "aspect", "x0", "y0", "ri", "re", "r", "g", "b", "a", "intensity"});
     MapForm::Read(map, "form", form);

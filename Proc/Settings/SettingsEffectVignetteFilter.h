@@ -4,8 +4,8 @@
 
 namespace Zorvan::Proc {
 
-// Part 6.2: a darkened or coloured border around a centre, between an inner and an outer
-// radius. Overrides IsEqualTo (every field, exact) and Deserialize; keeps the base's IsEmpty.
+// A darkened or coloured border around a centre, between an inner and an outer radius.
+// Overrides IsEqualTo (every field, exact) and Deserialize; keeps the base's IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectVignetteFilter : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -38,16 +38,16 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults are left open by Part 6.2 (the filter stage defines the selectors): all 0.
+    // Defaults all 0 (the filter stage defines what the selectors mean).
     int form = 0;
     int smooth = 0;
     int aspect = 0;
-    Color color = 0; // default left open: transparent black
+    Color color = 0; // default: transparent black
     double x0 = 0.0;
     double y0 = 0.0;
     double ri = 0.0;
     double re = 0.0;
-    float intensity = 0.0F; // default left open: 0, the stage changes nothing
+    float intensity = 0.0F; // neutral default: 0, the stage changes nothing
 };
 
 } // namespace Zorvan::Proc

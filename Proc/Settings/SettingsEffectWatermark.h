@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Identifier-only class (Part 1.5, hyphen row): it bears its identifier and keeps
-// the base operations of Part 1.1.
+// Identifier-only record: the stage has no parameters of its own, so the class carries its
+// identifier and keeps the base's IsEqualTo, IsEmpty and Deserialize.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectWatermark : public Settings {
 public:
     static const std::string CLASS_ID;
