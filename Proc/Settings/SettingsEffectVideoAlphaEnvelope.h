@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Identifier-only record: the stage has no parameters of its own, so the class carries its
-// identifier and keeps the base's IsEqualTo, IsEmpty and Deserialize.
+// Identifier-only record: the class carries its identifier and keeps the base's IsEqualTo,
+// IsEmpty and Deserialize.
 class ZORVAN_SETTINGS_EXPORT SettingsEffectVideoAlphaEnvelope : public Settings {
 public:
     static const std::string CLASS_ID;
