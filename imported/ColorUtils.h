@@ -1,5 +1,5 @@
 #pragma once
-// Stand-in for the sibling library ColorUtils (spec: Parts 2.4, 2.5):
+// Stand-in for the sibling library ColorUtils, for the colour-space records:
 // Zorvan::Conf::ColorSpace::FromString, declared with ColorSpace in imported/ConfInt.h.
 //
 // Names, matched without regard to ASCII letter case, and the H.273 code points they give

@@ -1,5 +1,5 @@
 #pragma once
-// Stand-in for the sibling library ConfInt (spec: Platform interfaces; Parts 2.3 to 2.7, 7.3).
+// Stand-in for the sibling library ConfInt: frames, colour spaces, geometry and format names.
 // The shapes follow shared/CONVENTIONS.md; every constant text here is this project's choice.
 #include <array>
 #include <cstdint>
@@ -68,7 +68,7 @@ ZORVAN_IMPORTED_EXPORT bool IsValidColorPrimaries(std::uint32_t primaries);
 ZORVAN_IMPORTED_EXPORT bool IsValidTransferFunction(std::uint32_t transfer);
 ZORVAN_IMPORTED_EXPORT bool IsValidYCbCrMatrix(std::uint32_t matrix);
 
-// Additional parameters appended to a file name (Part 2.3), e.g.
+// Additional parameters appended to a file name, e.g.
 // "movie.mkv??sub_charenc=cp1251&lang=en".
 struct ZORVAN_IMPORTED_EXPORT IFormatFile {
     static const std::string POSTFIX_ADDITIONAL_PARAMS; // "??": starts the additional parameters
@@ -99,7 +99,8 @@ struct ZORVAN_IMPORTED_EXPORT IFormatCodecVideo {
 
 namespace Zorvan::Proc {
 
-// Names of the implementations that carry out a stage (Part 2.6 copies two at load).
+// Names of the implementations that carry out a stage. SettingsFilterFrameRate copies two
+// of them at library load, so these must be initialised first.
 struct ZORVAN_IMPORTED_EXPORT ImplNames {
     static const std::string ZORVAN; // "zorvan": the engine's own implementation
     static const std::string FFMPEG; // "ffmpeg": the FFmpeg filter

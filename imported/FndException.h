@@ -1,5 +1,5 @@
 #pragma once
-// Stand-in for the sibling library FndException (spec: Platform interfaces, Part 1.3).
+// Stand-in for the sibling library FndException: the engine's exception base and call stacks.
 #include <exception>
 #include <string>
 
@@ -28,7 +28,7 @@ using ErrorInfoCallStack = boost::error_info<TagCallStack, std::string>;
 // The current call stack as text: one line a frame, innermost first, as glibc's
 // backtrace_symbols() writes it (module, symbol where the dynamic symbol table has
 // one, offset, address). It captures at most 64 frames and never throws; when the
-// capture fails it returns an empty string, which the library accepts (Part 1.3).
+// capture fails it returns an empty string, which the library accepts.
 ZORVAN_IMPORTED_EXPORT std::string GetCallStack();
 
 } // namespace Zorvan

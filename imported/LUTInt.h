@@ -1,5 +1,5 @@
 #pragma once
-// Stand-in for the sibling library LUTInt (spec: Part 5.6): a three-dimensional colour
+// Stand-in for the sibling library LUTInt: a three-dimensional colour
 // lookup table.
 #include <array>
 #include <cstddef>

@@ -1,5 +1,5 @@
 #pragma once
-// Stand-in for the sibling library Utils (spec: Platform interfaces; Parts 1.2, 2.1, 2.4, 7.3).
+// Stand-in for the sibling library Utils: string helpers and frame-geometry matrices.
 #include <array>
 #include <string>
 #include <string_view>
@@ -24,7 +24,7 @@ ZORVAN_IMPORTED_EXPORT std::pair<std::string, std::string> CutString(std::string
 namespace Zorvan::Core {
 
 // A 3 by 3 matrix of doubles in storage order m[0]..m[8], row by row. Points are row
-// vectors multiplied from the left, so m[6] and m[7] are the translation (Part 2.7).
+// vectors multiplied from the left, so m[6] and m[7] are the translation.
 struct ZORVAN_IMPORTED_EXPORT Matrix3x3 {
     std::array<double, 9> m{1.0, 0.0, 0.0, 0.0, 1.0, 0.0, 0.0, 0.0, 1.0};
 

@@ -3,9 +3,9 @@
 
 namespace Zorvan::Proc {
 
-// Part 2.6: the plain value class (not a Settings) that SettingsFilterFPSDoubler and
-// SettingsFilterSlowMotion name as their first, non-public base. Its fields (model,
-// resize method, resize percents) and DeserializeSettings come with Part 2.6's
+// The plain value class (not a Settings) that SettingsFilterFPSDoubler and
+// SettingsFilterSlowMotion share as their first, non-public base. Its fields (model,
+// resize method, resize percents) and DeserializeSettings come with those
 // frame-generation records; until then it holds nothing.
 class ZORVAN_SETTINGS_EXPORT AIFrameGeneratorSettings {};
 

@@ -7,7 +7,8 @@
 namespace Zorvan::Proc {
 
 // Truncation toward zero into 32-bit unsigned, saturating at both limits; not-a-number
-// gives 0 (as the float-to-unsigned conversion of 64-bit Arm does). Parts 1.4 and 2.1.
+// gives 0 (as the float-to-unsigned conversion of 64-bit Arm does), so sizes and points
+// come out the same on every platform the engine runs on.
 inline unsigned int TruncateSaturated(double value)
 {
     constexpr double limit = 4294967296.0; // 2^32
@@ -21,7 +22,8 @@ inline unsigned int TruncateSaturated(double value)
 }
 
 // Truncation toward zero into int, saturating at both limits; not-a-number gives 0 (as
-// the float-to-int conversion of 64-bit Arm does). Parts 5.1, 6.1, 6.3 and 6.4.
+// the float-to-int conversion of 64-bit Arm does), so the effects' integer amounts come out
+// the same on every platform the engine runs on.
 inline int TruncateToIntSaturated(double value)
 {
     if (std::isnan(value)) {

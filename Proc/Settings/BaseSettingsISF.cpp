@@ -20,7 +20,7 @@ const std::vector<std::string> BaseSettingsISF::s_params ZORVAN_INIT_PARAMS = {s
 namespace {
 
 // The whole content of the file, read as bytes; empty when the stream is not good after
-// opening (Part 1.6, step 3). Copied through `<< rdbuf()`, which turns a read error (a
+// opening. Copied through `<< rdbuf()`, which turns a read error (a
 // folder, say) into a short result instead of the exception libstdc++'s filebuf throws, so
 // that an unreadable file ends in "Invalid value" as a missing one does.
 std::string ReadFile(const std::string& path)
@@ -47,7 +47,8 @@ void BaseSettingsISF::Deserialize(const std::string& options)
             SetNewValue(ReadFile(Core::Utils::RemoveQuotes(*path)), s_errorMessage, field);
         }
     };
-    // Part 1.6: vertex, pixel, configuration, unlike the order of s_params.
+    // Read in the order vertex, pixel, configuration, unlike s_params: a file that fails leaves
+    // the fields read before it replaced, and callers rely on which those are.
     readFileInto(s_vsShaderPath, vertexShader);
     readFileInto(s_psShaderPath, pixelShader);
     readFileInto(s_configPath, config);

@@ -1,6 +1,6 @@
 #pragma once
-// Part 1.6: the base of effects and transitions described by shader text, and the shape of
-// the static key lists (s_<role>, s_params).
+// The base of effects and transitions described by shader text, and the shape of the
+// static key lists (s_<role>, s_params).
 #include <string>
 #include <vector>
 
@@ -9,7 +9,7 @@
 namespace Zorvan::Proc {
 
 // Abstract: GetClassId and Clone are left to the derived classes. Overrides only
-// Deserialize, so IsEqualTo throws and IsEmpty is false (Part 1.1). The fields hold the
+// Deserialize, so IsEqualTo throws and IsEmpty is false, as in the base. The fields hold the
 // shader and configuration texts themselves, not their paths.
 class ZORVAN_SETTINGS_EXPORT BaseSettingsISF : public Settings {
 public:

@@ -30,7 +30,7 @@ std::ostream& WriteRect(std::ostream& stream, const Rect& rect)
     return stream;
 }
 
-// The operations CropInfo and CropInfoF share (Part 1.4), written once.
+// The operations CropInfo and CropInfoF share, written once.
 template <typename Rect>
 Rect& AlignRect(Rect& rect, const Rect& other)
 {

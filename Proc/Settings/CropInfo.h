@@ -1,5 +1,5 @@
 #pragma once
-// Part 1.4: CropInfo and CropInfoF, rectangles given by their four edges.
+// CropInfo and CropInfoF, rectangles given by their four edges.
 #include <cstdint>
 #include <iosfwd>
 
@@ -7,11 +7,10 @@
 
 namespace Zorvan::Proc {
 
-// Part 1.4: a rectangle in whole pixels. `right` and `bottom` are one past the last
+// A rectangle in whole pixels. `right` and `bottom` are one past the last
 // column and row; width is right - left and height is bottom - top (unsigned 32-bit,
 // wrapping round when right < left or bottom < top). An aggregate:
-// CropInfo{left, right, top, bottom}. The exact `==` (all four fields) is an addition of
-// ours; Part 1.4 gives CropInfo no comparison of its own.
+// CropInfo{left, right, top, bottom}. The `==` compares all four fields exactly.
 struct ZORVAN_SETTINGS_EXPORT CropInfo {
     std::uint32_t left = 0;
     std::uint32_t right = 0;
@@ -40,7 +39,7 @@ struct ZORVAN_SETTINGS_EXPORT CropInfo {
     bool operator==(const CropInfo&) const = default;
 };
 
-// Part 1.4: CropInfo with doubles: the same fields, order and operations.
+// CropInfo with doubles: the same fields, order and operations.
 struct ZORVAN_SETTINGS_EXPORT CropInfoF {
     double left = 0.0;
     double right = 0.0;
@@ -59,11 +58,11 @@ struct ZORVAN_SETTINGS_EXPORT CropInfoF {
     double GetWidth() const { return right - left; }
     double GetHeight() const { return bottom - top; }
 
-    // Part 1.4: equal when Diff(other) is strictly below 1e-5.
+    // Equal when Diff(other) is strictly below 1e-5.
     bool operator==(const CropInfoF& other) const;
 };
 
-// Part 1.4: writes "(l:" left ", t:" top ", r:" right ", b:" bottom ") (w:" width ", h:"
+// Writes "(l:" left ", t:" top ", r:" right ", b:" bottom ") (w:" width ", h:"
 // height ")", each of the six numbers with a field width of 4 and a space as the fill
 // character. The stream's earlier fill character is restored afterwards.
 // Example: CropInfo{1, 2, 3, 4} gives "(l:   1, t:   3, r:   2, b:   4) (w:   1, h:   1)".

@@ -2,7 +2,7 @@
 // The one export-macro header of the library. The shared library is built with
 // hidden visibility; ZORVAN_SETTINGS_EXPORT marks what is public: the classes of the
 // catalogue (with their members and CLASS_ID data symbols), the value types, the
-// exception classes and the free helpers of Part 1.2 and Part 1.3.
+// exception classes and the free helpers of option strings and failure reporting.
 #if defined(_WIN32)
 #if defined(ZORVAN_SETTINGS_BUILDING)
 #define ZORVAN_SETTINGS_EXPORT __declspec(dllexport)

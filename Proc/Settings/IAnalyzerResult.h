@@ -1,10 +1,10 @@
 #pragma once
-// Part 3.3: the base of what analyzers hand back.
+// The base of what analyzers hand back.
 #include "Proc/Settings/Export.h"
 
 namespace Zorvan::Proc {
 
-// Part 3.3: an interface with nothing in it but a virtual destructor, so that a result of
+// An interface with nothing in it but a virtual destructor, so that a result of
 // any analyzer can be held and destroyed through this one type. The destructor is defined
 // out of line, so that the virtual table and the type information are the library's.
 class ZORVAN_SETTINGS_EXPORT IAnalyzerResult {

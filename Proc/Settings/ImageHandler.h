@@ -1,5 +1,5 @@
 #pragma once
-// Overview: ImageHandler, the opaque image holder of Zorvan::Proc.
+// ImageHandler, the opaque image holder of Zorvan::Proc.
 #include <cstdint>
 #include <vector>
 
@@ -7,11 +7,11 @@
 
 namespace Zorvan::Proc {
 
-// Overview, Parts 6.4, 7.2, 7.4: an image that records hold by shared pointer to const and
+// An image that records hold by shared pointer to const and
 // hand on to the renderer. The library never looks inside: the renderer owns the meaning
 // of the content (pixel format, row layout). This holder keeps a width, a height and the
 // pixel bytes as given, and checks nothing. Default-built, it is empty (0 by 0, no bytes).
-// It has no comparison: records compare images by pointer (Part 7.4).
+// It has no comparison: records compare images by pointer.
 class ZORVAN_SETTINGS_EXPORT ImageHandler {
 public:
     ImageHandler();

@@ -1,5 +1,5 @@
 #pragma once
-// The map form of Deserialize (Part 1.2, rule 4; Part 6.1, Algorithms), key by key. Internal
+// The map form of Deserialize (the options read into a map of keys, then key by key). Internal
 // to the library's sources: not installed with the public headers (see CMakeLists.txt).
 // Each class still builds its own key list and reads its own keys in its own order; these
 // helpers only spell out the lookup and the standard conversion of one key.
@@ -68,7 +68,8 @@ void Read(const Settings::OptionsMap& map, const std::string& key, T& field)
     }
 }
 
-// "true only when exactly 1" (Parts 6.1, 6.3): std::stoi of the text equals 1, so 2 is false.
+// True only when exactly 1: std::stoi of the text equals 1, so 2 is false. Kept so for the
+// effects whose saved presets were read this way.
 inline void ReadExactlyOne(const Settings::OptionsMap& map, const std::string& key, bool& field)
 {
     if (const std::string* text = FindText(map, key)) {

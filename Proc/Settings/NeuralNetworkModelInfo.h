@@ -1,5 +1,5 @@
 #pragma once
-// Part 1.4: NeuralNetworkModelInfo, the description of a neural-network model.
+// NeuralNetworkModelInfo, the description of a neural-network model.
 #include <cstdint>
 #include <string>
 
@@ -7,11 +7,11 @@
 
 namespace Zorvan::Proc {
 
-// Part 1.4: a model given by file path or by binary data (the whole model in memory),
+// A model given by file path or by binary data (the whole model in memory),
 // and the executor that runs it. An aggregate:
 // NeuralNetworkModelInfo{path, binaryData, executorType}.
 struct ZORVAN_SETTINGS_EXPORT NeuralNetworkModelInfo {
-    // Part 1.4: 32-bit; the numbers are the interface.
+    // 32-bit; the numbers are the interface: saved projects and the engine store them.
     enum ExecutorType : std::uint32_t {
         CPU = 0,
         GPU = 1,
@@ -20,7 +20,7 @@ struct ZORVAN_SETTINGS_EXPORT NeuralNetworkModelInfo {
 
     std::string path;
     std::string binaryData;
-    ExecutorType executorType = CPU; // default left open by the spec: 0, the CPU
+    ExecutorType executorType = CPU; // neutral default: 0, the CPU
 
     // True when both the path and the binary data are empty; the executor does not count.
     bool IsEmpty() const;

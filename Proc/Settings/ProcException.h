@@ -1,5 +1,5 @@
 #pragma once
-// Part 1.3: the library's exception classes, AddStack and the throwing forms A and B.
+// The library's exception classes, AddStack and the throwing forms A and B.
 #include <source_location>
 #include <stdexcept>
 #include <string>
@@ -15,7 +15,7 @@ class ZORVAN_SETTINGS_EXPORT SettingsException : public ProcException {};
 class ZORVAN_SETTINGS_EXPORT EffectException : public ProcException {};
 class ZORVAN_SETTINGS_EXPORT AnalyzerException : public ProcException {};
 
-// Throwing form A (Part 1.3): description, call stack, throw location, in this order.
+// Throwing form A: description, call stack, throw location, in this order.
 [[noreturn]] ZORVAN_SETTINGS_EXPORT void
 ThrowSettings(const std::string& message, const std::source_location& location = std::source_location::current());
 [[noreturn]] ZORVAN_SETTINGS_EXPORT void
@@ -23,7 +23,7 @@ ThrowEffect(const std::string& message, const std::source_location& location = s
 [[noreturn]] ZORVAN_SETTINGS_EXPORT void
 ThrowAnalyzer(const std::string& message, const std::source_location& location = std::source_location::current());
 
-// Throwing form B (Part 1.3): the message, a newline and the call stack in what().
+// Throwing form B: the message, a newline and the call stack in what().
 [[noreturn]] ZORVAN_SETTINGS_EXPORT void
 ThrowInvalidArgument(const std::string& message,
                      const std::source_location& location = std::source_location::current());

@@ -1,5 +1,5 @@
 #pragma once
-// Part 1.4: RelativePoint, a point relative to the frame.
+// RelativePoint, a point relative to the frame.
 #include <cstdint>
 #include <utility>
 
@@ -7,10 +7,10 @@
 
 namespace Zorvan::Proc {
 
-// Part 1.4: two doubles, x then y, each meant to lie in 0..1 (x to the right, y down).
+// Two doubles, x then y, each meant to lie in 0..1 (x to the right, y down).
 class ZORVAN_SETTINGS_EXPORT RelativePoint {
 public:
-    // Part 1.4: the named fixed points; the numbers are the interface.
+    // The named fixed points; the numbers are the interface: saved projects store them.
     enum Centers : std::uint32_t {
         TopLeft = 0,     // (0, 0)
         TopRight = 1,    // (1, 0)

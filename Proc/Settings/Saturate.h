@@ -1,7 +1,8 @@
 #pragma once
-// Part 1.4: Saturate<T>, the one global template of the library (not in Zorvan::Proc).
+// Saturate<T>, the one global template of the library (not in Zorvan::Proc): the engine's
+// sources call it unqualified.
 
-// Part 1.4: `low` if the value is below `low`, else `high` if it is above `high`, else the
+// `low` if the value is below `low`, else `high` if it is above `high`, else the
 // value. Meant for T int, unsigned int and double. Both tests are strict comparisons, so a
 // not-a-number value fails both and comes back as it is. `low` is not checked against `high`.
 template <typename T>

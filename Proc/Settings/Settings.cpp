@@ -165,7 +165,7 @@ namespace {
 constexpr std::string_view kDefaultValuePattern = R"([^":]+|"[^"]*")";
 constexpr std::string_view kNumericValuePattern = R"([0-9\.\,\-]+|"[^"]*")";
 
-// Part 1.2: "\b({})=({})", ECMAScript, case-insensitive; an empty value pattern selects the default.
+// "\b({})=({})", ECMAScript, case-insensitive; an empty value pattern selects the default.
 std::regex GetOptionRegex(std::string_view keyPattern, std::string_view valuePattern)
 {
     const std::string_view value = valuePattern.empty() ? kDefaultValuePattern : valuePattern;
@@ -268,7 +268,7 @@ Settings::OptionsViewMap Settings::OptionsRegexSearch(std::string_view options, 
             // emplace keeps the first occurrence; keys differing in case are one key.
             result.emplace(std::string(ViewOf(options, match[1])), value);
         }
-        // Each search begins afresh behind the match (Part 1.2, step 4).
+        // Each search begins afresh behind the match.
         position = match[0].second;
     }
     return result;
@@ -297,7 +297,7 @@ std::optional<T> Settings::GetOption(std::string_view options, std::string_view 
     }
     T result{};
     if (!ConvertValue(value, result)) {
-        // Form C of Part 1.3: thrown directly, no stack, no location.
+        // Thrown directly, with no stack and no location, unlike ThrowInvalidArgument.
         throw std::invalid_argument(fmt::format("The '{}' value of the '{}' option is not {}", value, key,
                                                 std::is_same_v<T, bool> ? "a boolean" : "a number"));
     }

@@ -6,17 +6,17 @@
 
 namespace Zorvan::Proc {
 
-// Part 3.3: a stage that detects a shift in audio by stepping a pattern through a window.
+// A stage that detects a shift in audio by stepping a pattern through a window.
 // Keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsAnalyzerAudioDetectShift : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Part 3.3: the limits of SetWindow and SetPatternStep, in seconds.
+    // The limits of SetWindow and SetPatternStep, in seconds.
     static constexpr unsigned long MIN_WINDOW_SEC = 10;
     static constexpr unsigned long MIN_PATTERN_STEP_SEC = 1;
 
-    // Part 3.3: the detected shift and its score, fixed at construction.
+    // The detected shift and its score, fixed at construction.
     class ZORVAN_SETTINGS_EXPORT Result : public IAnalyzerResult {
     public:
         Result(long long shift, double score);
@@ -54,9 +54,9 @@ public:
     unsigned long GetPatternStep() const;
 
 private:
-    std::int32_t sampleRate = 48000;                  // default left open by the spec: a common valid rate
-    unsigned long window = MIN_WINDOW_SEC;            // default left open by the spec: the smallest valid window
-    unsigned long patternStep = MIN_PATTERN_STEP_SEC; // default left open by the spec: the smallest valid step
+    std::int32_t sampleRate = 48000;                  // neutral default: a common valid rate
+    unsigned long window = MIN_WINDOW_SEC;            // neutral default: the smallest valid window
+    unsigned long patternStep = MIN_PATTERN_STEP_SEC; // neutral default: the smallest valid step
 };
 
 } // namespace Zorvan::Proc

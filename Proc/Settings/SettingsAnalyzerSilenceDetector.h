@@ -8,12 +8,12 @@
 
 namespace Zorvan::Proc {
 
-// Part 3.3: a stage that finds silent stretches. Keeps the base's IsEqualTo and IsEmpty.
+// A stage that finds silent stretches. Keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsAnalyzerSilenceDetector : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Part 3.3: the silence intervals in the order of insertion. Microseconds go in,
+    // The silence intervals in the order of insertion. Microseconds go in,
     // milliseconds come out.
     class ZORVAN_SETTINGS_EXPORT Result : public IAnalyzerResult {
     public:
@@ -57,8 +57,8 @@ public:
     avTime GetMinSilenceDuration() const;
 
 private:
-    float threshold = 0.0F;             // default left open by the spec: 0, only full silence counts
-    avTime minSilenceDuration = 100000; // default left open by the spec: the smallest valid, 100 ms
+    float threshold = 0.0F;             // neutral default: 0, only full silence counts
+    avTime minSilenceDuration = 100000; // neutral default: the smallest valid, 100 ms
 };
 
 } // namespace Zorvan::Proc

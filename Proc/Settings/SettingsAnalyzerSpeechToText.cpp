@@ -11,7 +11,7 @@
 
 namespace Zorvan::Proc {
 
-static_assert(sizeof(unsigned long) == 8, "threadCount is unsigned 64-bit (Part 3.1)");
+static_assert(sizeof(unsigned long) == 8, "threadCount is unsigned 64-bit");
 
 const std::string SettingsAnalyzerSpeechToText::CLASS_ID ZORVAN_INIT_STRINGS = "SettingsAnalyzerSpeechToText";
 
@@ -108,7 +108,8 @@ void SettingsAnalyzerSpeechToText::Deserialize(const std::string& options)
     if (const auto translate = GetOption<bool>(options, "translatingToEnglish", "")) {
         translatingToEnglish = *translate;
     }
-    // The end threshold is read ahead of the begin threshold (Part 3.1).
+    // The end threshold is read ahead of the begin threshold, so that with both malformed the
+    // message names the end one; kept so on purpose for callers that show it.
     if (const auto end = GetOption<int>(options, "endSilenceThreshold", "")) {
         endSilenceThreshold = *end < 0 ? UNDEFINED_TIME : static_cast<avTime>(*end) * microsecondsPerMillisecond;
     }

@@ -1,5 +1,5 @@
 #pragma once
-// Part 3.1: the settings of the speech-to-text stage and the timed text it hands back.
+// The settings of the speech-to-text stage and the timed text it hands back.
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -11,21 +11,20 @@
 
 namespace Zorvan::Proc {
 
-// Part 3.1: recognition model, language, threads, buffer, sampling and the silence thresholds.
+// Recognition model, language, threads, buffer, sampling and the silence thresholds.
 // Overrides Deserialize only: IsEqualTo and IsEmpty stay the base's; no operator==.
 class ZORVAN_SETTINGS_EXPORT SettingsAnalyzerSpeechToText : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Part 3.1: the recogniser's sampling strategy; the enumerator names are ours.
+    // The recogniser's sampling strategy; callers and saved projects use the numbers.
     enum class SamplingStrategy : std::int32_t {
         Greedy = 0,
         BeamSearch = 1,
     };
 
-    // Part 3.1: the three-level tree of timed text that the stage hands back. Aggregates, so
-    // that callers build them with braces; times in microseconds. Not an IAnalyzerResult
-    // (Part 3.1 does not ask for it).
+    // The three-level tree of timed text that the stage hands back. Aggregates, so that
+    // callers build them with braces; times in microseconds. Not an IAnalyzerResult.
     struct ZORVAN_SETTINGS_EXPORT Result {
         // A timed piece of text: start, end, text.
         struct ZORVAN_SETTINGS_EXPORT SubtitleElement {

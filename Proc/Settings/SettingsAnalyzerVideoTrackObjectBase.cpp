@@ -62,11 +62,11 @@ void SettingsAnalyzerVideoTrackObjectBase::Deserialize(const std::string& option
         return;
     }
     const auto map = GetOptionsMap(options, {"begin", "leftTopX", "leftTopY", "width", "height"});
-    // Step 1: a 32-bit integer, widened, without any scaling.
+    // "begin": a 32-bit integer, widened, without any scaling.
     if (const auto value = MapForm::Find<int>(map, "begin")) {
         begin = *value;
     }
-    // Steps 2 to 4: the working rectangle starts as the whole frame, not as the field.
+    // The working rectangle starts as the whole frame, not as the field.
     RectRel working{0.0, 0.0, 1.0, 1.0};
     MapForm::Read(map, "leftTopX", working.left);
     MapForm::Read(map, "leftTopY", working.top);

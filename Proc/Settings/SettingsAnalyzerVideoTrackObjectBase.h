@@ -8,13 +8,13 @@
 
 namespace Zorvan::Proc {
 
-// Part 3.2: what all object trackers share: where tracking starts and the rectangle it
+// What all object trackers share: where tracking starts and the rectangle it
 // starts from. Keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsAnalyzerVideoTrackObjectBase : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Part 3.2: the tracker's output, a list of rectangles in the order of insertion.
+    // The tracker's output, a list of rectangles in the order of insertion.
     class ZORVAN_SETTINGS_EXPORT Result : public IAnalyzerResult {
     public:
         struct ZORVAN_SETTINGS_EXPORT TrackingInfo {
@@ -61,8 +61,8 @@ public:
     RectRel GetRect() const;
 
 protected:
-    avTime begin = 0;                 // default left open by the spec: the start of the stream
-    RectRel rect{0.0, 0.0, 1.0, 1.0}; // default left open by the spec: the whole frame
+    avTime begin = 0;                 // neutral default: the start of the stream
+    RectRel rect{0.0, 0.0, 1.0, 1.0}; // neutral default: the whole frame
 };
 
 } // namespace Zorvan::Proc

@@ -4,7 +4,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 3.2: a tracker of two neural network models (a backbone and a head) for ONNX
+// A tracker of two neural network models (a backbone and a head) for ONNX
 // Runtime. Keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsAnalyzerVideoTrackObjectOnnxRT : public SettingsAnalyzerVideoTrackObjectBase {
 public:
@@ -45,9 +45,9 @@ public:
     float GetConfidenceThreshold() const;
 
 private:
-    NeuralNetworkModelInfo backboneModelInfo; // default left open by the spec: no model, CPU
-    NeuralNetworkModelInfo headModelInfo;     // default left open by the spec: no model, CPU
-    float confidenceThreshold = 0.5F;         // default left open by the spec: the midpoint of a 0..1 score
+    NeuralNetworkModelInfo backboneModelInfo; // neutral default: no model, CPU
+    NeuralNetworkModelInfo headModelInfo;     // neutral default: no model, CPU
+    float confidenceThreshold = 0.5F;         // neutral default: the midpoint of a 0..1 score
 };
 
 } // namespace Zorvan::Proc

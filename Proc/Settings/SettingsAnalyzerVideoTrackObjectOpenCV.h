@@ -5,12 +5,13 @@
 
 namespace Zorvan::Proc {
 
-// Part 3.2: a tracker of OpenCV, chosen by number. Keeps the base's IsEqualTo and IsEmpty.
+// A tracker of OpenCV, chosen by number. Keeps the base's IsEqualTo and IsEmpty.
 class ZORVAN_SETTINGS_EXPORT SettingsAnalyzerVideoTrackObjectOpenCV : public SettingsAnalyzerVideoTrackObjectBase {
 public:
     static const std::string CLASS_ID;
 
-    // Part 3.2: 32-bit, values 0 to 4; the names and the trackers they select are ours.
+    // 32-bit, values 0 to 4: saved projects store the number. The trackers each selects are
+    // the engine's to choose; the names only label them.
     enum Algorithm : std::int32_t {
         MIL = 0,
         KCF = 1,
@@ -39,7 +40,7 @@ public:
     Algorithm GetAlgorithm() const;
 
 private:
-    Algorithm algorithm = MIL; // default left open by the spec: 0, the first tracker
+    Algorithm algorithm = MIL; // neutral default: 0, the first tracker
 };
 
 } // namespace Zorvan::Proc

@@ -35,7 +35,7 @@ void SettingsAudioChorus::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 4.2: one voice only; the voices held before are replaced.
+    // One voice only; the voices held before are replaced.
     const std::vector<std::string> keys = {"intensity", "delay", "decay", "speed", "depth", "gain_in", "gain_out"};
     const auto map = GetOptionsMap(options, keys);
     if (const auto value = MapForm::Find<float>(map, "intensity")) {

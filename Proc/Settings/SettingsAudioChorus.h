@@ -6,7 +6,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.2: the chorus, a list of voices and two gains. Keeps the base IsEqualTo (which
+// The chorus, a list of voices and two gains. Keeps the base IsEqualTo (which
 // throws) although it has a tolerant operator==; each option key reaches its own field.
 class ZORVAN_SETTINGS_EXPORT SettingsAudioChorus : public Settings {
 public:
@@ -54,7 +54,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 4.2: a record that changes nothing.
+    // Neutral defaults: a record that changes nothing.
     std::vector<Voice> voices; // no voice: nothing is added
     double gainIn = 1.0;       // unity gain
     double gainOut = 1.0;      // unity gain

@@ -10,10 +10,11 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// Part 4.1: an accepted threshold below this is raised to it (the text of the Part, in double).
+// An accepted threshold below this is raised to it. The decimal in double, deliberately not
+// 2^-10 exactly, so that raised thresholds match those of earlier versions.
 constexpr double THRESHOLD_MIN_VALUE = 0.000976563;
 
-// Part 4.1: the inclusive range check of every setter; a not-a-number passes.
+// The inclusive range check of every setter; a not-a-number passes, kept so on purpose.
 template <typename T>
 void Check(T value, T low, T high, const char* message)
 {
@@ -41,7 +42,7 @@ void SettingsAudioCompressor::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 4.1: the key list is built afresh on each call; the keys are applied in another order.
+    // The key list is built afresh on each call; the keys are applied in another order.
     const auto map = GetOptionsMap(options, {"levelIn", "threshold", "ratio", "attack", "release", "makeup", "knee",
                                              "link", "detection", "intensity"});
     if (const auto value = MapForm::Find<float>(map, "levelIn")) {

@@ -6,7 +6,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.1: the dynamic-range compressor. Its keys are spelled in camel case ("levelIn"), its
+// The dynamic-range compressor. Its keys are spelled in camel case ("levelIn"), its
 // messages are short ("Invalid ratio!") and its detector and link are written as the numbers 0
 // and 1 in an option string. It does not follow the gate's conventions, on purpose.
 // Keeps the base IsEqualTo (it throws) and IsEmpty (never empty) and has no operator==.
@@ -50,7 +50,7 @@ public:
     void SetKnee(float value);
     // 0 to 1, "Invalid intensity!".
     void SetIntensity(float value);
-    // Ours (Part 4.1 names no setters for these): stored as given, unchecked.
+    // Stored as given, unchecked, unlike the setters above.
     void SetLink(LinkType value);
     void SetDetection(DetectionType value);
 
@@ -66,7 +66,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 4.1: a record that changes nothing (unity gains, ratio 1,
+    // Neutral defaults: a record that changes nothing (unity gains, ratio 1,
     // intensity 0), with valid values elsewhere.
     float levelIn = 1.0F;                         // unity input gain
     double threshold = 1.0;                       // full scale: nothing lies above it
@@ -80,7 +80,7 @@ private:
     float intensity = 0.0F;                       // no effect
 };
 
-// The text of the Part 4.1 table, without a line end; any other value raises EffectException
+// The text given at each enumerator, without a line end; any other value raises EffectException
 // "Unknown detection type" / "Unknown link type". Returns the stream.
 ZORVAN_SETTINGS_EXPORT std::ostream& operator<<(std::ostream& stream, SettingsAudioCompressor::DetectionType value);
 ZORVAN_SETTINGS_EXPORT std::ostream& operator<<(std::ostream& stream, SettingsAudioCompressor::LinkType value);

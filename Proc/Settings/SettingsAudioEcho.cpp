@@ -38,8 +38,8 @@ void SettingsAudioEcho::Deserialize(const std::string& options)
     if (const auto value = MapForm::Find<float>(map, "intensity")) {
         SetIntensity(*value);
     }
-    // Part 4.2: one working gain; "gain_out" replaces what "gain_in" gave, and it ends up in
-    // gainIn. Required as stated.
+    // One working gain; "gain_out" replaces what "gain_in" gave, and it ends up in gainIn.
+    // Kept so on purpose: saved presets were written for this reading.
     double gain = 1.0;
     MapForm::Read(map, "gain_in", gain);
     MapForm::Read(map, "gain_out", gain);

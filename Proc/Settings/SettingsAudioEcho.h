@@ -6,7 +6,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.2: the echo, a list of echos and two gains. Its conventions differ from the chorus's
+// The echo, a list of echos and two gains. Its conventions differ from the chorus's
 // on purpose: unchecked gains, per-parameter messages, and an option string in which
 // "gain_out" acts on the in-gain and the out-gain is always reset to 1.
 class ZORVAN_SETTINGS_EXPORT SettingsAudioEcho : public Settings {
@@ -52,7 +52,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 4.2: a record that changes nothing.
+    // Neutral defaults: a record that changes nothing.
     std::vector<Echo> echos; // no echo: nothing is added
     double gainIn = 1.0;     // unity gain
     double gainOut = 1.0;    // unity gain

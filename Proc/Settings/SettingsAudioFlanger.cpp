@@ -10,8 +10,8 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// Part 4.2 (as Part 4.1): fails only when the value compares outside its bounds, so a
-// not-a-number passes.
+// Fails only when the value compares outside its bounds, so a not-a-number passes, as in the
+// compressor and the gate.
 void Check(float value, float low, float high, const char* message)
 {
     if (value < low || value > high) {
@@ -45,7 +45,7 @@ void SettingsAudioFlanger::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 4.2: built once, on the first call, under the language's initialisation guard.
+    // Built once, on the first call, under the language's initialisation guard.
     static const std::vector<std::string> keys = {"delay", "depth", "regen", "intensity",
                                                   "speed", "phase", "shape", "interpolation"};
     const auto map = GetOptionsMap(options, keys);
@@ -67,7 +67,7 @@ void SettingsAudioFlanger::Deserialize(const std::string& options)
     if (const auto value = MapForm::Find<float>(map, "phase")) {
         SetPhase(*value);
     }
-    // Part 4.2: the text exactly as GetOptionsMap holds it, quotes kept, case-sensitive. No
+    // The text exactly as GetOptionsMap holds it, quotes kept, case-sensitive. No
     // quote removal: a quoted word keeps its quotes and fails, an unquoted one is no option.
     if (const std::string* text = MapForm::FindText(map, "shape")) {
         if (*text == "triangular") {

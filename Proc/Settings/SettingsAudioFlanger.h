@@ -6,7 +6,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.2: the flanger, eight flat parameters. IsEqualTo compares all eight exactly; there is
+// The flanger, eight flat parameters. IsEqualTo compares all eight exactly; there is
 // no operator==.
 class ZORVAN_SETTINGS_EXPORT SettingsAudioFlanger : public Settings {
 public:
@@ -41,9 +41,10 @@ public:
     void SetIntensity(float value);
     // 0.1 to 10, "Speed should be in range from 0.1f to 10.f".
     void SetSpeed(float value);
-    // 0 to 100, "Release should be in range from 0.f to 100.f" (names release, as required).
+    // 0 to 100, "Release should be in range from 0.f to 100.f" (names release; kept so on
+    // purpose for callers that match the message).
     void SetPhase(float value);
-    // Ours (Part 4.2 names no setters for these): stored as given, unchecked.
+    // Stored as given, unchecked, unlike the setters above.
     void SetShape(ShapeType value);
     void SetInterpolation(InterpolationType value);
 
@@ -57,7 +58,7 @@ public:
     InterpolationType GetInterpolation() const;
 
 private:
-    // Defaults left open by Part 4.2: valid values and intensity 0, so nothing changes.
+    // Neutral defaults: valid values and intensity 0, so nothing changes.
     float delay = 0.0F;
     float depth = 0.0F;                                          // no sweep
     float regen = 0.0F;                                          // no feedback
@@ -68,7 +69,7 @@ private:
     InterpolationType interpolation = InterpolationType::Linear; // value 0
 };
 
-// The text of the Part 4.2 table, without a line end; any other value raises EffectException
+// The text given at each enumerator, without a line end; any other value raises EffectException
 // "Unknown shape type" / "Unknown interpolation type". Returns the stream.
 ZORVAN_SETTINGS_EXPORT std::ostream& operator<<(std::ostream& stream, SettingsAudioFlanger::ShapeType value);
 ZORVAN_SETTINGS_EXPORT std::ostream& operator<<(std::ostream& stream, SettingsAudioFlanger::InterpolationType value);

@@ -11,7 +11,7 @@ namespace Zorvan::Proc {
 
 namespace {
 
-// Part 4.1: the inclusive range check of every setter; a not-a-number passes.
+// The inclusive range check of every setter; a not-a-number passes, kept so on purpose.
 void Check(float value, float low, float high, const char* message)
 {
     if (value < low || value > high) {
@@ -43,7 +43,7 @@ void SettingsAudioGate::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 4.1: built once, on the first call, under the language's initialisation guard.
+    // Built once, on the first call, under the language's initialisation guard.
     static const std::vector<std::string> keys = {"level_in", "range",  "intensity", "threshold", "ratio", "attack",
                                                   "release",  "makeup", "knee",      "detection", "link"};
     const auto map = GetOptionsMap(options, keys);
@@ -74,7 +74,7 @@ void SettingsAudioGate::Deserialize(const std::string& options)
     if (const auto value = MapForm::Find<float>(map, "knee")) {
         SetKnee(*value);
     }
-    // Part 4.1: the text exactly as GetOptionsMap holds it, quotes kept, case-sensitive. No
+    // The text exactly as GetOptionsMap holds it, quotes kept, case-sensitive. No
     // quote removal: a quoted word keeps its quotes and fails, an unquoted one is no option.
     if (const std::string* text = MapForm::FindText(map, "detection")) {
         if (*text == "rms") {

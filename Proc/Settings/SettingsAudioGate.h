@@ -6,7 +6,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.1: the noise gate with the compressor's parameters, following its own conventions on
+// The noise gate with the compressor's parameters, following its own conventions on
 // purpose: keys with underscores ("level_in"), long messages, one field for "range" and
 // "intensity", and detection and link compared as text (which no option string can satisfy).
 class ZORVAN_SETTINGS_EXPORT SettingsAudioGate : public Settings {
@@ -45,8 +45,8 @@ public:
     void SetThreshold(float value);
     // 1 to 9000, "Ratio should be in range from 1.f to 9000.f".
     void SetRatio(float value);
-    // 0.01 to 9000, "Attack should be in range from 0.01f to 1.f" (the message's bound is wrong
-    // and stays so).
+    // 0.01 to 9000, "Attack should be in range from 0.01f to 1.f" (the message's bound is wrong;
+    // kept so on purpose for callers that match the message).
     void SetAttackMs(float value);
     // 0.01 to 9000, "Release should be in range from 0.01f to 9000.f".
     void SetReleaseMs(float value);
@@ -54,7 +54,7 @@ public:
     void SetMakeup(float value);
     // 1 to 8, "Knee should be in range from 1.f to 8.f".
     void SetKnee(float value);
-    // Ours (Part 4.1 names no setters for these): stored as given, unchecked.
+    // Stored as given, unchecked, unlike the setters above.
     void SetDetection(DetectionType value);
     void SetLink(LinkType value);
 
@@ -70,7 +70,7 @@ public:
     LinkType GetLink() const;
 
 private:
-    // Defaults left open by Part 4.1: a record that changes nothing (unity gains, threshold 0,
+    // Neutral defaults: a record that changes nothing (unity gains, threshold 0,
     // ratio 1, intensity 0), with valid values elsewhere.
     float levelIn = 1.0F;                         // unity input gain
     float rangeIntensity = 0.0F;                  // intensity 0: no effect
@@ -84,7 +84,7 @@ private:
     LinkType link = LinkType::Average;            // value 0
 };
 
-// The text of the Part 4.1 table, without a line end; any other value raises EffectException
+// The text given at each enumerator, without a line end; any other value raises EffectException
 // "Unknown detection type" / "Unknown link type". Returns the stream.
 ZORVAN_SETTINGS_EXPORT std::ostream& operator<<(std::ostream& stream, SettingsAudioGate::DetectionType value);
 ZORVAN_SETTINGS_EXPORT std::ostream& operator<<(std::ostream& stream, SettingsAudioGate::LinkType value);

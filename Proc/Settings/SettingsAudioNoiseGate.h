@@ -3,7 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.1: the noise gate: four unchecked doubles and a checked float intensity.
+// The noise gate: four unchecked doubles and a checked float intensity.
 class ZORVAN_SETTINGS_EXPORT SettingsAudioNoiseGate : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -22,7 +22,7 @@ public:
     // 0 to 1 inclusive, else EffectException "Intensity should be in range from 0.f to 1.f"; a
     // not-a-number passes and is stored.
     void SetIntensity(float value);
-    // Ours (Part 4.1 names no setters for these): stored as given, unchecked, as Deserialize does.
+    // Stored as given, unchecked, as Deserialize does.
     void SetThreshold(double value);
     void SetAttack(double value);
     void SetDecay(double value);
@@ -35,7 +35,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 4.1 (units are the sound engine's): zeros, and intensity 0, so
+    // Neutral defaults (units are the sound engine's): zeros, and intensity 0, so
     // that the stage changes nothing.
     double threshold = 0.0; // nothing lies below it
     double attack = 0.0;

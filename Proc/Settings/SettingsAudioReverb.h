@@ -3,7 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.3: a reverberation stage that holds only a strength. Keeps the base IsEqualTo
+// A reverberation stage that holds only a strength. Keeps the base IsEqualTo
 // (which throws) and the base IsEmpty (never empty).
 class ZORVAN_SETTINGS_EXPORT SettingsAudioReverb : public Settings {
 public:
@@ -11,16 +11,16 @@ public:
 
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
-    // Map form (Part 1.2): the one key "intensity", std::stof, through SetIntensity.
+    // Map form: the one key "intensity", std::stof, through SetIntensity.
     void Deserialize(const std::string& options) override;
 
     // 0 to 1 inclusive, else EffectException "Invalid intensity!"; the check fails only when
-    // the value compares outside its bounds, so a not-a-number passes (as in Part 4.1).
+    // the value compares outside its bounds, so a not-a-number passes (as in the dynamics stages).
     void SetIntensity(float value);
     float GetIntensity() const;
 
 private:
-    float intensity = 0.0F; // default left open by Part 4.3: 0, no reverberation
+    float intensity = 0.0F; // neutral default: 0, no reverberation
 };
 
 } // namespace Zorvan::Proc

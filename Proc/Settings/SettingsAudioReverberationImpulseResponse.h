@@ -6,7 +6,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.3: the parameters from which an impulse response is synthesised: a noise of a
+// The parameters from which an impulse response is synthesised: a noise of a
 // given colour, shaped by a fade curve, filtered by a sliding low-pass filter.
 class ZORVAN_SETTINGS_EXPORT SettingsAudioReverberationImpulseResponse : public Settings {
 public:
@@ -35,7 +35,8 @@ public:
     bool operator!=(const SettingsAudioReverberationImpulseResponse& other) const;
 
     // The checked setters throw EffectException and leave the field as it was. A check fails
-    // only when the value compares outside its bounds, so a not-a-number passes (Part 4.1).
+    // only when the value compares outside its bounds, so a not-a-number passes, as in the
+    // dynamics stages.
     // 0.0001 to 30 inclusive: "Reverberation time should be in range from 0.0001 to 30.0."
     void SetReverberationTime(double value);
     // 0 to 10 inclusive: "Dry gain should be in range from 0.0 to 10.0."
@@ -46,7 +47,7 @@ public:
     void SetDelay(int value);
     // Above 0: "Sliding LPF frequency should be greater than 0."
     void SetSlpfFrequency(int value);
-    // Plain setters (left open by Part 4.3): stored as given.
+    // Plain setters: stored as given.
     void SetNoiseColor(NoiseColor value);
     void SetFadeFunction(ChangeFunction value);
     void SetSlpfFunction(ChangeFunction value);
@@ -61,7 +62,7 @@ public:
     ChangeFunction GetSlpfFunction() const;
 
 private:
-    // Defaults left open by Part 4.3: dry 1 and wet 0, so the stage changes nothing; the other
+    // Neutral defaults: dry 1 and wet 0, so the stage changes nothing; the other
     // fields take valid values.
     double reverberationTime = 1.0; // seconds; any valid value, the wet gain 0 mutes it
     double dryGain = 1.0;           // the dry signal passes unchanged
@@ -73,7 +74,7 @@ private:
     ChangeFunction slpfFunction = ChangeFunction::Tri;
 };
 
-// The text of the Part 4.3 table, without a line end; any other value writes nothing and
+// The text given at each enumerator, without a line end; any other value writes nothing and
 // raises nothing. Returns the stream.
 ZORVAN_SETTINGS_EXPORT std::ostream& operator<<(std::ostream& stream,
                                                 SettingsAudioReverberationImpulseResponse::ChangeFunction value);

@@ -29,7 +29,7 @@ void SettingsAudioVibrato::Deserialize(const std::string& options)
     if (options.empty()) {
         return;
     }
-    // Part 4.2: built once, on the first call, under the language's initialisation guard.
+    // Built once, on the first call, under the language's initialisation guard.
     static const std::vector<std::string> keys = {"frequency", "intensity"};
     const auto map = GetOptionsMap(options, keys);
     if (const auto value = MapForm::Find<float>(map, "frequency")) {

@@ -3,7 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 4.2: the vibrato, frequency and intensity. IsEqualTo compares both exactly; there is no
+// The vibrato, frequency and intensity. IsEqualTo compares both exactly; there is no
 // operator==.
 class ZORVAN_SETTINGS_EXPORT SettingsAudioVibrato : public Settings {
 public:
@@ -28,7 +28,7 @@ public:
     float GetIntensity() const;
 
 private:
-    // Defaults left open by Part 4.2: valid values and intensity 0, so nothing changes.
+    // Neutral defaults: valid values and intensity 0, so nothing changes.
     float frequency = 5.0F; // Hz, a valid value; no effect at intensity 0
     float intensity = 0.0F; // dry signal only
 };

@@ -88,10 +88,10 @@ void SettingsFilterCutController::AddInterval(avTime begin, avTime end, avTime d
 
 void SettingsFilterCutController::UpdateOptimizedList()
 {
-    // 1.
+    // The interval found last is forgotten.
     index = -1;
 
-    // 2.
+    // Every begin and end becomes a point.
     std::vector<PointInfo> points;
     points.reserve(intervals.size() * 2);
     for (const Interval& interval : intervals) {
@@ -99,13 +99,13 @@ void SettingsFilterCutController::UpdateOptimizedList()
         points.push_back(PointInfo{interval.end, false});
     }
 
-    // 3. and 4.
+    // Sorted by time, duplicates removed.
     std::sort(points.begin(), points.end(), [](const PointInfo& a, const PointInfo& b) { return a.time < b.time; });
     points.erase(std::unique(points.begin(), points.end(),
                              [](const PointInfo& a, const PointInfo& b) { return a.time == b.time; }),
                  points.end());
 
-    // 5. The interval added last has the last word; uncovered stretches stay kept.
+    // The interval added last has the last word; uncovered stretches stay kept.
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
         const avTime middle = Midpoint(points[i].time, points[i + 1].time);
         for (auto interval = intervals.rbegin(); interval != intervals.rend(); ++interval) {
@@ -116,7 +116,7 @@ void SettingsFilterCutController::UpdateOptimizedList()
         }
     }
 
-    // 6. Runs of like flags merge among all points but the last, which stays at the end.
+    // Runs of like flags merge among all points but the last, which stays at the end.
     if (!points.empty()) {
         const auto last = std::unique(points.begin(), points.end() - 1,
                                       [](const PointInfo& a, const PointInfo& b) { return a.flag == b.flag; });
@@ -124,7 +124,7 @@ void SettingsFilterCutController::UpdateOptimizedList()
         points.erase(last + 1, points.end());
     }
 
-    // 7. and 8.
+    // The list rebuilt from the points, each interval with the deleted time before it.
     intervals.clear();
     avTime deletedBefore = 0;
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
@@ -166,7 +166,7 @@ bool SettingsFilterCutController::IsEnabled() const
 
 avTime SettingsFilterCutController::GetOverallDuration(avTime sourceDuration) const
 {
-    // "with one that is deleted": a list of exactly one interval, and that one deleted (Part 2.2).
+    // Nothing cut: an empty list, or exactly one interval and that one deleted.
     if (intervals.empty() || (intervals.size() == 1 && intervals.front().deleted)) {
         return sourceDuration;
     }
@@ -181,15 +181,15 @@ avTime SettingsFilterCutController::GetOverallDuration(avTime sourceDuration) co
 
 void SettingsFilterCutController::CutToDuration(avTime targetDuration, avTime sourceDuration)
 {
-    // 1. The walk uses this local copy, so that the rebuilt list does not disturb it.
+    // The walk uses this local copy, so that the rebuilt list does not disturb it.
     avTime overall = GetOverallDuration(sourceDuration);
     std::deque<Interval> kept;
     std::copy_if(intervals.begin(), intervals.end(), std::back_inserter(kept),
                  [](const Interval& interval) { return !interval.deleted; });
 
-    // 2.
+    // Kept stretches are deleted from the end until the target duration is reached.
     while (overall > targetDuration) {
-        // Left open by Part 2.2: with no kept stretch left there is nothing to delete, so stop.
+        // With no kept stretch left there is nothing to delete, so stop.
         if (kept.empty()) {
             break;
         }
@@ -204,11 +204,10 @@ void SettingsFilterCutController::CutToDuration(avTime targetDuration, avTime so
         }
         AddInterval(last.begin, last.end, last.deletedBefore, true);
         kept.pop_back();
-        // Its length as the overall duration counted it (open end = source duration), Part 2.2.
+        // Its length as the overall duration counted it (open end = source duration).
         overall = WrapSub(overall, length);
     }
 
-    // 3.
     UpdateOptimizedList();
 }
 

@@ -8,7 +8,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 2.2: the cut list of a stream, kept as a sorted, gap-free partition of the source
+// The cut list of a stream, kept as a sorted, gap-free partition of the source
 // timeline into alternating deleted and kept stretches, and the mapping between source
 // time and result time.
 class ZORVAN_SETTINGS_EXPORT SettingsFilterCutController : public Settings {
@@ -46,7 +46,8 @@ public:
     // Same count and, in order, all four fields of each interval; the index takes no part.
     bool operator==(const SettingsFilterCutController& other) const;
 
-    // Appends the interval and rebuilds; the third argument is lost in the rebuild (Part 2.2).
+    // Appends the interval and rebuilds; the third argument is lost in the rebuild, which
+    // recomputes every deleted-before time.
     void AddInterval(avTime begin, avTime end, avTime deletedBefore, bool deleted);
     void UpdateOptimizedList();
     // std::logic_error "No intervals created" / "Incorrect interval index" (form B).
@@ -71,11 +72,11 @@ protected:
     // Protected, not private: a derived class (the tests) may build lists that the public
     // operations cannot reach, such as an empty one.
     std::deque<Interval> intervals;
-    // The index of the interval found last; const lookups write it (Part 2.2).
+    // The index of the interval found last, a cache for the next lookup; const lookups write it.
     mutable int index = -1;
 };
 
-// Part 2.2: begin is at most the time and the time is below end.
+// Begin is at most the time and the time is below end.
 ZORVAN_SETTINGS_EXPORT bool TimeInInterval(const avTime& time, const SettingsFilterCutController::Interval& interval);
 
 } // namespace Zorvan::Proc

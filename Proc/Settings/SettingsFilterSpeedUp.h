@@ -3,7 +3,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 2.6: the speed factor of a stream.
+// The speed factor of a stream.
 class ZORVAN_SETTINGS_EXPORT SettingsFilterSpeedUp : public Settings {
 public:
     static const std::string CLASS_ID;
@@ -14,7 +14,7 @@ public:
     bool IsEmpty() const override;
     void Deserialize(const std::string& options) override;
 
-    // `nearly equal` on the speed (Part 1.1).
+    // `nearly equal` on the speed.
     bool operator==(const SettingsFilterSpeedUp& other) const;
 
     // Throws SettingsException "Invalid speed" below zero; zero and NaN pass.
@@ -22,7 +22,7 @@ public:
     double GetSpeedFactor() const;
 
 private:
-    double speedFactor = 1.0; // default left open by the spec: 1.0, the stage changes nothing
+    double speedFactor = 1.0; // neutral default: 1.0, the stage changes nothing
 };
 
 } // namespace Zorvan::Proc

@@ -8,7 +8,7 @@
 
 namespace Zorvan::Proc {
 
-// Part 2.6: the speed factor with an optional constant frame rate and seeking.
+// The speed factor with an optional constant frame rate and seeking.
 class ZORVAN_SETTINGS_EXPORT SettingsFilterSpeedUpVideo : public SettingsFilterSpeedUp {
 public:
     using Rational = boost::rational<std::int64_t>;
@@ -21,7 +21,8 @@ public:
     bool IsEmpty() const override;
     void Deserialize(const std::string& options) override;
 
-    // Speed compared exactly (not `nearly equal`), the optionals, use seek (Part 2.6).
+    // Speed compared exactly (not `nearly equal` as in the base; kept so on purpose), the
+    // optionals, use seek.
     bool operator==(const SettingsFilterSpeedUpVideo& other) const;
     bool operator!=(const SettingsFilterSpeedUpVideo& other) const;
 

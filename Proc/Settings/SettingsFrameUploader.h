@@ -3,12 +3,12 @@
 
 namespace Zorvan::Proc {
 
-// Identifier-only class (Part 1.5, hyphen row): it bears its identifier and keeps
-// the base operations of Part 1.1.
+// Identifier-only class: the engine picks the stage by its CLASS_ID; it carries no options,
+// so the record keeps the base operations (IsEqualTo and Deserialize throw, IsEmpty is false).
 class ZORVAN_SETTINGS_EXPORT SettingsFrameUploader : public Settings {
 public:
     static const std::string CLASS_ID;
-    // Part 1.6: a public writable static, initially true. The library defines it and reads
+    // A public writable static, initially true. The library defines it and reads
     // it nowhere; the engine owns its meaning.
     static bool s_metalHasHigherPriority;
 

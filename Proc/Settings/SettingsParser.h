@@ -3,8 +3,8 @@
 
 namespace Zorvan::Proc {
 
-// Identifier-only class (Part 1.5, hyphen row): it bears its identifier and keeps
-// the base operations of Part 1.1.
+// Identifier-only class: the engine picks the stage by its CLASS_ID; it carries no options,
+// so the record keeps the base operations (IsEqualTo and Deserialize throw, IsEmpty is false).
 class ZORVAN_SETTINGS_EXPORT SettingsParser : public Settings {
 public:
     static const std::string CLASS_ID;

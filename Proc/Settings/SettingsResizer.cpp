@@ -75,7 +75,7 @@ std::optional<std::uint32_t> ReadUInt32(std::string_view text)
     return value;
 }
 
-// Steps 6, 7 and 9 of Deserialize: a whole unsigned number is the enumerator by number
+// size_mode, custom_mode and resize_method: a whole unsigned number is the enumerator by number
 // (wrapping into the signed 32 bits), else a spelling of the table, else form B.
 template <typename E>
 E ReadEnumeration(std::string_view options, std::string_view key, E current, const SpellingTable<E>& table,
@@ -104,19 +104,19 @@ std::uint32_t Unsigned(CustomModes mode)
     return static_cast<std::uint32_t>(mode);
 }
 
-// Step 4 of the ROI: a total split into two even parts (1 gives 0 and 0, 6 gives 2 and 4).
+// The ROI margins: a total split into two even parts (1 gives 0 and 0, 6 gives 2 and 4).
 std::pair<std::uint32_t, std::uint32_t> SplitEven(std::uint32_t total)
 {
     const std::uint32_t half = total >> 1;
     return {half - (half & 1U), half + (half & 1U)};
 }
 
-// Step 3 of the ROI for one axis: `cut` of the source and `pad` of the target.
+// The ROI for one axis: `cut` of the source and `pad` of the target.
 std::pair<std::uint32_t, std::uint32_t> CutAndPad(std::uint32_t fit, std::uint32_t out, std::uint32_t src)
 {
     const std::int64_t d = static_cast<std::int64_t>(fit) - static_cast<std::int64_t>(out);
     if (d >= 1) {
-        // d * src in 64 bits: no wrap for frames of any size (Part 2.1 leaves the width open).
+        // d * src in 64 bits: no wrap for frames of any size.
         return {static_cast<std::uint32_t>(static_cast<std::uint64_t>(d) * src / fit + 1U), 1U};
     }
     return {1U, static_cast<std::uint32_t>(1 - d)};
@@ -141,17 +141,16 @@ bool SettingsResizer::IsEqualTo(const Settings& other) const
 
 void SettingsResizer::Deserialize(const std::string& options)
 {
-    // Step 1.
     if (options.empty()) {
         return;
     }
-    // Step 2: the size text before the first colon, the remaining options behind it.
+    // The size text before the first colon, the remaining options behind it.
     const std::string_view all(options);
     const std::size_t colon = all.find(':');
     const std::string_view sizeText = all.substr(0, colon);
     const std::string_view rest = colon == std::string_view::npos ? std::string_view{} : all.substr(colon + 1);
 
-    // Step 3: the size text is mandatory, even where the mode will not use it.
+    // The size text is mandatory, even where the mode will not use it.
     const auto [widthText, heightText] = Core::Utils::CutString(sizeText, 'x');
     const auto width = ReadUInt32(widthText);
     const auto height = ReadUInt32(heightText);
@@ -160,20 +159,19 @@ void SettingsResizer::Deserialize(const std::string& options)
     }
     Conf::FrameInfo frame{*width, *height, 1, 1};
 
-    // Step 4: an unreadable half (an upper-case X, a number beyond 32 bits) raises
-    // std::bad_optional_access, as Part 2.1 requires.
+    // An unreadable half (an upper-case X, a number beyond 32 bits) raises
+    // std::bad_optional_access; kept so on purpose, callers catch that class.
     if (const std::string_view aspect = OptionRegexSearch(rest, "aspect", "\\d+x\\d+"); !aspect.empty()) {
         const auto [numerator, denominator] = Core::Utils::CutString(aspect, 'x');
         frame.parNumerator = ReadUInt32(numerator).value();
         frame.parDenominator = ReadUInt32(denominator).value();
     }
 
-    // Step 5.
     if (const std::string_view impl = OptionRegexSearch(rest, "impl", ""); !impl.empty()) {
         SetImplName(std::string(impl));
     }
 
-    // Steps 6 and 7: Custom always takes the custom mode path, and so replaces the custom
+    // Custom always takes the custom mode path, and so replaces the custom
     // frame by this string's size even when neither key was given.
     const SizeModes mode = ReadEnumeration(rest, "size_mode", sizeMode, SizeModeSpellings(),
                                            "An unknown size mode has been requested for the resizer: ");
@@ -185,16 +183,16 @@ void SettingsResizer::Deserialize(const std::string& options)
                       frame);
     }
 
-    // Step 8: "scale" wins over the size mode of step 6.
+    // "scale" wins over the size mode read above.
     if (const auto scale = GetOption<double>(rest, "scale", "")) {
         SetCustomScale(*scale);
     }
 
-    // Step 9: stored without a check, so that a number beyond the table is kept.
+    // Stored without a check, so that a number beyond the table is kept.
     resizeMethod = ReadEnumeration(rest, "resize_method", resizeMethod, ResizeMethodSpellings(),
                                    "An unknown resize method has been requested for the resizer: ");
 
-    // Steps 10 and 11.
+    // A non-zero number turns a flag on, 0 turns it off.
     if (const auto oddWidth = GetOption<unsigned long>(rest, "odd_w_allowed", "")) {
         oddWidthAllowed = *oddWidth != 0;
     }
@@ -205,7 +203,7 @@ void SettingsResizer::Deserialize(const std::string& options)
         premultiplied = *value != 0;
     }
 
-    // Step 12: the executor type is truncated to 32 bits and not checked.
+    // The executor type is truncated to 32 bits and not checked.
     if (const std::string_view file = OptionRegexSearch(rest, "nnm_file", ""); !file.empty()) {
         model.path = std::string(file);
     }
@@ -286,7 +284,7 @@ const Conf::FrameInfo& SettingsResizer::GetFrameInfo() const
 
 void SettingsResizer::SetCustomScale(double scale)
 {
-    if (scale <= 0) { // not-a-number passes (Part 2.1)
+    if (scale <= 0) { // not-a-number passes, kept so on purpose
         ThrowSettings("Custom scale have to be positive");
     }
     sizeMode = SizeModes::CustomScale;
@@ -425,16 +423,15 @@ bool SettingsResizer::IsEnabled() const
 
 Conf::FrameInfo SettingsResizer::GetOutputFrameSize(const Conf::FrameInfo& frame) const
 {
-    // Step 1.
     if (Unsigned(sizeMode) > 4U) {
         ThrowLogicError(fmt::format("Unknown resize mode '{}'", Unsigned(sizeMode)));
     }
-    // Step 2: unsigned wrap-around.
+    // The source size after the crop, in unsigned wrap-around.
     const std::uint32_t srcW = frame.width - crop.left - crop.right;
     const std::uint32_t srcH = frame.height - crop.top - crop.bottom;
     Conf::FrameInfo result{srcW, srcH, frame.parNumerator, frame.parDenominator};
 
-    // Step 4: the maximum size, which never enlarges and keeps the aspect ratio.
+    // The maximum size, which never enlarges and keeps the aspect ratio.
     const auto limitToMaximum = [this](Conf::FrameInfo& size) {
         if (maxWidth == 0 || maxHeight == 0) {
             return;
@@ -448,7 +445,6 @@ Conf::FrameInfo SettingsResizer::GetOutputFrameSize(const Conf::FrameInfo& frame
         size.height = TruncateSaturated(h / r);
     };
 
-    // Step 3.
     switch (sizeMode) {
     case SizeModes::Original:
         limitToMaximum(result);
@@ -469,12 +465,12 @@ Conf::FrameInfo SettingsResizer::GetOutputFrameSize(const Conf::FrameInfo& frame
         result.height = TruncateSaturated(scaleFactor * srcH);
         break;
     case SizeModes::Custom: {
-        // Step 5.
         if (Unsigned(customMode) > 5U) {
             ThrowLogicError(fmt::format("Unknown resize custom mode '{}'", Unsigned(customMode)));
         }
         const auto smartFit = [&] {
-            // The two products in 32 bits, as Part 2.1 says.
+            // The two products in 32 bits, wrapping on purpose: output sizes must match those the
+            // engine has always computed.
             const std::uint32_t numerator = customFrame.parDenominator * frame.parNumerator;
             const std::uint32_t denominator = customFrame.parNumerator * frame.parDenominator;
             const double ratio = static_cast<double>(srcW) / srcH * numerator / denominator;
@@ -503,13 +499,13 @@ Conf::FrameInfo SettingsResizer::GetOutputFrameSize(const Conf::FrameInfo& frame
     }
     }
 
-    // Step 6: the finish.
+    // A size of 0 beside a non-zero one becomes 1.
     if (result.width == 0 && result.height != 0) {
         result.width = 1;
     } else if (result.height == 0 && result.width != 0) {
         result.height = 1;
     }
-    // Step 7: always upward; CustomScale included ("in all modes").
+    // Odd sizes are rounded upward in every mode, CustomScale included.
     if (!oddWidthAllowed && (result.width & 1U) != 0) {
         result.width += 1;
     }
@@ -523,13 +519,12 @@ Conf::FrameInfo SettingsResizer::GetROI(const Conf::FrameInfo& frame, CropInfo& 
 {
     const Conf::FrameInfo out = GetOutputFrameSize(frame);
 
-    // Step 1.
     const std::uint32_t srcW = frame.width - crop.left - crop.right;
     const std::uint32_t srcH = frame.height - crop.top - crop.bottom;
     std::uint32_t fitW = out.width;
     std::uint32_t fitH = out.height;
 
-    // Step 2.
+    // Auto, LetterBox and Crop: the size the source takes at its own aspect, rounded down to even.
     if (sizeMode == SizeModes::Custom &&
         (customMode == CustomModes::Auto || customMode == CustomModes::LetterBox || customMode == CustomModes::Crop)) {
         const double srcRatio = static_cast<double>(srcW) / srcH;
@@ -566,7 +561,7 @@ Conf::FrameInfo SettingsResizer::GetROI(const Conf::FrameInfo& frame, CropInfo& 
         fitH &= ~1U;
     }
 
-    // Steps 3 to 6.
+    // Cut from the source or pad around it, each margin split into two even parts.
     const auto [cutX, padX] = CutAndPad(fitW, out.width, srcW);
     const auto [cutY, padY] = CutAndPad(fitH, out.height, srcH);
     const auto [cutLeft, cutRight] = SplitEven(cutX);

@@ -1,5 +1,5 @@
 #pragma once
-// Part 2.1: the resizer: output frame size, region of interest and the quad to draw.
+// The resizer: output frame size, region of interest and the quad to draw.
 #include <array>
 #include <cstdint>
 #include <string>
@@ -15,8 +15,9 @@ class ZORVAN_SETTINGS_EXPORT SettingsResizer : public Settings {
 public:
     static const std::string CLASS_ID;
 
-    // Part 2.1: the spec's numbers, signed 32-bit (SetSizeMode and SetCustomMode compare as
-    // signed, GetOutputFrameSize as unsigned). Deserialize spells them as the comments say.
+    // The numbers are the interface (saved projects store them), signed 32-bit (SetSizeMode and
+    // SetCustomMode compare as signed, GetOutputFrameSize as unsigned). Deserialize spells
+    // them as the comments say.
     enum class SizeModes : std::int32_t {
         Original = 0,       // "Original"
         HalfOriginal = 1,   // "HalfOriginal"
@@ -51,7 +52,7 @@ public:
     bool IsEqualTo(const Settings& other) const override;
     // The option string "WxH[:key=value...]": a keyless head (the size, mandatory), then the
     // keys aspect, impl, size_mode, custom_mode, scale, resize_method, odd_w_allowed,
-    // odd_h_allowed, premultiplied, nnm_file, nnm_type, nnm_channels, in twelve steps.
+    // odd_h_allowed, premultiplied, nnm_file, nnm_type, nnm_channels.
     void Deserialize(const std::string& options) override;
 
     // Implementation name, crop, the five integers, size mode, odd flags, resize method,
@@ -78,7 +79,7 @@ public:
     void SetCustomScale(double scale);
     double GetScaleFactor() const;
 
-    // Accessors the Part leaves open: stored unchecked.
+    // Stored unchecked.
     void SetCrop(const CropInfo& crop);
     const CropInfo& GetCrop() const;
     void SetMaxWidth(int width);
@@ -97,7 +98,7 @@ public:
     const NeuralNetworkModelInfo& GetModel() const;
     void SetModelChannels(std::uint64_t channels);
     std::uint64_t GetModelChannels() const;
-    // The three reserved integers (Part 2.1, "Left to the implementer"): kept, copied, compared.
+    // The three reserved integers, no meaning of their own yet: kept, copied, compared.
     void SetReservedInteger(std::int32_t value);
     std::int32_t GetReservedInteger() const;
     void SetReservedInteger2(std::int32_t value);
@@ -118,7 +119,7 @@ public:
     std::array<float, 16> CalculateCoordBuffer(const Conf::FrameInfo& frame) const;
 
 private:
-    // Defaults are left open by Part 2.1; each is the neutral value: no implementation named,
+    // Neutral defaults, so that a new record changes nothing: no implementation named,
     // no crop, no limit, the size of the source, nothing odd rounded, nothing premultiplied.
     std::string implName;
     CropInfo crop{};
@@ -134,7 +135,7 @@ private:
     bool oddWidthAllowed = true;
     bool oddHeightAllowed = true;
     bool premultiplied = false;
-    ResizeMethods resizeMethod = ResizeMethods::FastBilinear; // default left open: the value 0
+    ResizeMethods resizeMethod = ResizeMethods::FastBilinear; // neutral default: the value 0
     NeuralNetworkModelInfo model{};
     std::uint64_t modelChannels = 0;
 };
