@@ -59,5 +59,6 @@ void AddFieldsStylising(FieldMap& fields);
 void AddFieldsVignette(FieldMap& fields);
 void AddFieldsHalfTonePopArt(FieldMap& fields);
 void AddFieldsCameraShakeGlitchTiltShift(FieldMap& fields);
+void AddFieldsStreamPipeline(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -307,6 +307,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsVignette(fields);
     CatalogDetail::AddFieldsHalfTonePopArt(fields);
     CatalogDetail::AddFieldsCameraShakeGlitchTiltShift(fields);
+    CatalogDetail::AddFieldsStreamPipeline(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
