@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 #include <fmt/format.h>
@@ -11,6 +10,7 @@
 #include "Proc/Settings/Arithmetic.h"
 #include "Proc/Settings/InitOrder.h"
 #include "Proc/Settings/ProcException.h"
+#include "Proc/Settings/Spellings.h"
 #include "imported/Utils.h"
 
 namespace Zorvan::Proc {
@@ -22,9 +22,6 @@ namespace {
 using SizeModes = SettingsResizer::SizeModes;
 using CustomModes = SettingsResizer::CustomModes;
 using ResizeMethods = SettingsResizer::ResizeMethods;
-
-template <typename E>
-using SpellingTable = std::unordered_map<std::string, E, CaseInsensitiveHash, CaseInsensitiveEqual>;
 
 const SpellingTable<SizeModes>& SizeModeSpellings()
 {
@@ -88,8 +85,8 @@ E ReadEnumeration(std::string_view options, std::string_view key, E current, con
     if (const auto number = ReadUInt32(value)) {
         return static_cast<E>(static_cast<std::int32_t>(*number));
     }
-    if (const auto found = table.find(std::string(value)); found != table.end()) {
-        return found->second;
+    if (const auto found = FindSpelling(table, value)) {
+        return *found;
     }
     ThrowInvalidArgument(std::string(message) + std::string(value));
 }
