@@ -16,4 +16,19 @@ std::unique_ptr<Settings> SettingsFilterFPSDoubler::Clone() const
     return std::make_unique<SettingsFilterFPSDoubler>(*this);
 }
 
+bool SettingsFilterFPSDoubler::IsEqualTo(const Settings& other) const
+{
+    return *this == dynamic_cast<const SettingsFilterFPSDoubler&>(other);
+}
+
+void SettingsFilterFPSDoubler::Deserialize(const std::string& options)
+{
+    DeserializeSettings(options);
+}
+
+bool SettingsFilterFPSDoubler::operator==(const SettingsFilterFPSDoubler& other) const
+{
+    return AIFrameGeneratorSettings::operator==(other);
+}
+
 } // namespace Zorvan::Proc

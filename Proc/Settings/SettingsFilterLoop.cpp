@@ -16,4 +16,19 @@ std::unique_ptr<Settings> SettingsFilterLoop::Clone() const
     return std::make_unique<SettingsFilterLoop>(*this);
 }
 
+bool SettingsFilterLoop::operator==(const SettingsFilterLoop& other) const
+{
+    return duration == other.duration;
+}
+
+void SettingsFilterLoop::SetDuration(avTime value)
+{
+    duration = value;
+}
+
+avTime SettingsFilterLoop::GetDuration() const
+{
+    return duration;
+}
+
 } // namespace Zorvan::Proc
