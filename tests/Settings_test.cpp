@@ -1,10 +1,11 @@
-// Part 1.1: the settings interface, class identity and the reference record.
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
-#include <memory>
+#include <stdexcept>
+#include <tuple>
 #include <typeinfo>
+#include <utility>
 
 #include "Proc/Settings/SettingsAudioGenerator.h"
 #include "Proc/Settings/SettingsEffectBlurGaussian.h"
@@ -16,6 +17,7 @@
 
 using namespace Zorvan::Proc;
 using ZorvanTest::FormADescription;
+using ZorvanTest::ThrownType;
 
 namespace {
 
@@ -29,187 +31,55 @@ SettingsEffectBlurGaussian Blur(double scale, bool fast)
 
 } // namespace
 
-TEST(SettingsBase, IsEmptyIsFalseForClassesWithoutOverrideEvenAtDefaults)
-{
-    EXPECT_FALSE(SettingsEffectBlurGaussian().IsEmpty());
-    EXPECT_FALSE(SettingsAudioGenerator().IsEmpty());
-    EXPECT_FALSE(SettingsFilterAudioVolume().IsEmpty());
-}
-
-TEST(SettingsBase, DeserializeEmptyThrowsWithoutOverrideAndIsANoOpWithOne)
+// Classes without their own IsEqualTo, Deserialize or IsEmpty: the engine must not get a
+// silent answer from them, even for an empty option string or a record compared with itself.
+TEST(SettingsBase, DefaultsThrowNameThisRecordAndChangeNothing)
 {
     SettingsAudioGenerator generator;
+    SettingsFilterAudioVolume volume;
+    SettingsEffectBlurGaussian blur = Blur(1.25, true);
     EXPECT_EQ(FormADescription<SettingsException>([&] { generator.Deserialize(""); }),
               "Not implemented fill from string for settings CLASS_ID = SettingsAudioGenerator");
-    SettingsFilterAudioVolume volume;
     EXPECT_EQ(FormADescription<SettingsException>([&] { volume.Deserialize("gain=2"); }),
               "Not implemented fill from string for settings CLASS_ID = $$AUDIO_VOLUME$$");
-
-    SettingsEffectBlurGaussian blur = Blur(3.5, true);
-    EXPECT_NO_THROW(blur.Deserialize(""));
-    EXPECT_EQ(blur.GetScale(), 3.5);
-    EXPECT_TRUE(blur.GetFast());
-}
-
-TEST(SettingsBase, IsEqualToWithItselfThrowsWithoutOverride)
-{
-    const SettingsAudioGenerator generator;
     EXPECT_EQ(FormADescription<SettingsException>([&] { (void)generator.IsEqualTo(generator); }),
               "Not implemented comparison for settings CLASS_ID = SettingsAudioGenerator");
-}
-
-TEST(SettingsBase, IsEqualToDoesNotLookAtTheOtherRecord)
-{
-    // The base IsEqualTo names this record's identifier, whatever the other one is.
-    const SettingsEffectBlurGaussian blur;
-    const SettingsAudioGenerator generator;
+    // The other record is not looked at, not even its class.
     EXPECT_EQ(FormADescription<SettingsException>([&] { (void)blur.IsEqualTo(generator); }),
               "Not implemented comparison for settings CLASS_ID = $$EffectBlurGaussian$$");
+    EXPECT_TRUE(blur.GetScale() == 1.25 && blur.GetFast());
+    EXPECT_FALSE(blur.IsEmpty() || generator.IsEmpty() || volume.IsEmpty());
 }
 
-TEST(SettingsBase, FailedBaseOperationsLeaveTheRecordUnchanged)
-{
-    SettingsEffectBlurGaussian blur = Blur(1.25, true);
-    EXPECT_THROW((void)blur.IsEqualTo(blur), SettingsException);
-    EXPECT_EQ(blur.GetScale(), 1.25);
-    EXPECT_TRUE(blur.GetFast());
-}
-
-TEST(ClassIdentity, GetClassIdReturnsAReferenceToClassId)
-{
-    const SettingsEffectBlurGaussian blur;
-    EXPECT_EQ(&blur.GetClassId(), &SettingsEffectBlurGaussian::CLASS_ID);
-    EXPECT_EQ(blur.GetClassId(), "$$EffectBlurGaussian$$");
-    const SettingsFilterSpeedUpVideo video;
-    const Settings& asBase = video;
-    EXPECT_EQ(&asBase.GetClassId(), &SettingsFilterSpeedUpVideo::CLASS_ID);
-    EXPECT_NE(SettingsFilterSpeedUpVideo::CLASS_ID, SettingsFilterSpeedUp::CLASS_ID);
-}
-
-TEST(ClassIdentity, CloneCopiesTheRecordIntoANewObjectOfItsClass)
-{
-    const SettingsEffectBlurGaussian blur = Blur(2.5, true);
-    const std::unique_ptr<Settings> clone = blur.Clone();
-    ASSERT_NE(clone, nullptr);
-    EXPECT_NE(clone.get(), static_cast<const Settings*>(&blur));
-    EXPECT_EQ(typeid(*clone), typeid(SettingsEffectBlurGaussian));
-    EXPECT_EQ(clone->GetClassId(), "$$EffectBlurGaussian$$");
-    const auto& copy = dynamic_cast<const SettingsEffectBlurGaussian&>(*clone);
-    EXPECT_EQ(copy.GetScale(), 2.5);
-    EXPECT_TRUE(copy.GetFast());
-}
-
-TEST(ClassIdentity, CloneOfADerivedRecordThroughTheBaseKeepsTheDerivedClass)
+TEST(ClassIdentity, GetClassIdAndCloneKeepTheDynamicClass)
 {
     SettingsFilterSpeedUpVideo video;
     video.SetSpeedUp(2.0);
     video.SetConstantFPS({30000, 1001});
     video.UseSeek(true);
     const SettingsFilterSpeedUp& asBase = video;
+    EXPECT_EQ(&asBase.GetClassId(), &SettingsFilterSpeedUpVideo::CLASS_ID);
+    EXPECT_NE(SettingsFilterSpeedUpVideo::CLASS_ID, SettingsFilterSpeedUp::CLASS_ID);
     const std::unique_ptr<Settings> clone = asBase.Clone();
     EXPECT_EQ(typeid(*clone), typeid(SettingsFilterSpeedUpVideo));
-    EXPECT_TRUE(video.IsEqualTo(*clone));
     EXPECT_TRUE(clone->IsEqualTo(video));
-}
 
-TEST(ClassIdentity, CloneSharesTheObjectsOfSharedPointerMembers)
-{
-    SettingsEffectBokehBlur bokeh;
+    const std::unique_ptr<Settings> blur = Blur(2.5, true).Clone();
+    EXPECT_EQ(blur->GetClassId(), "$$EffectBlurGaussian$$");
+    const auto& copy = dynamic_cast<const SettingsEffectBlurGaussian&>(*blur);
+    EXPECT_TRUE(copy.GetScale() == 2.5 && copy.GetFast());
+
+    SettingsEffectBokehBlur bokeh; // a clone shares what its record holds by shared pointer
     const auto image = std::make_shared<const ImageHandler>(2, 1, std::vector<std::uint8_t>{1, 2, 3, 4, 5, 6, 7, 8});
     bokeh.SetImage(image);
-    bokeh.SetParams(3.0, 0.5, 0.25);
-    const std::unique_ptr<Settings> clone = bokeh.Clone();
-    const auto& copy = dynamic_cast<const SettingsEffectBokehBlur&>(*clone);
-    EXPECT_EQ(copy.GetImage().get(), image.get());
-    EXPECT_EQ(image.use_count(), 3); // the test, the record and its clone
-    EXPECT_EQ(copy.GetSize(), 3.0);
-    EXPECT_EQ(copy.GetHdrBorder(), 0.25);
+    const std::unique_ptr<Settings> bokehClone = bokeh.Clone();
+    EXPECT_EQ(dynamic_cast<const SettingsEffectBokehBlur&>(*bokehClone).GetImage().get(), image.get());
+    EXPECT_EQ(image.use_count(), 3);
 }
 
-TEST(BlurGaussian, ScaleWinsAndFastIsNotLookedAtWhenBothAreGiven)
-{
-    SettingsEffectBlurGaussian blur = Blur(1.0, false);
-    blur.Deserialize("scale=2.5:fast=1");
-    EXPECT_EQ(blur.GetScale(), 2.5);
-    EXPECT_FALSE(blur.GetFast());
-
-    SettingsEffectBlurGaussian fastBlur = Blur(1.0, true);
-    fastBlur.Deserialize("scale=2.5:fast=0");
-    EXPECT_TRUE(fastBlur.GetFast());
-}
-
-TEST(BlurGaussian, FastAloneSetsTheFlag)
-{
-    SettingsEffectBlurGaussian blur = Blur(1.0, false);
-    blur.Deserialize("fast=1");
-    EXPECT_TRUE(blur.GetFast());
-    EXPECT_EQ(blur.GetScale(), 1.0);
-}
-
-TEST(BlurGaussian, FastBeforeScaleLeavesTheFlagUnchanged)
-{
-    SettingsEffectBlurGaussian blur = Blur(4.0, true);
-    blur.Deserialize("fast=0:scale=1");
-    EXPECT_TRUE(blur.GetFast());
-    EXPECT_EQ(blur.GetScale(), 1.0);
-}
-
-TEST(BlurGaussian, FastIsTrueForAnyNonZeroNumber)
-{
-    SettingsEffectBlurGaussian blur;
-    blur.Deserialize("fast=-3");
-    EXPECT_TRUE(blur.GetFast());
-    blur.Deserialize("fast=00");
-    EXPECT_FALSE(blur.GetFast());
-    blur.Deserialize("fast=2,5");
-    EXPECT_TRUE(blur.GetFast());
-}
-
-TEST(BlurGaussian, UnquotedWordIsNoOptionAndChangesNothing)
-{
-    SettingsEffectBlurGaussian blur = Blur(0.75, true);
-    blur.Deserialize("scale=abc");
-    EXPECT_EQ(blur.GetScale(), 0.75);
-    EXPECT_TRUE(blur.GetFast());
-    // With scale absent, a fast key behind the word is read.
-    blur.Deserialize("scale=abc:fast=0");
-    EXPECT_FALSE(blur.GetFast());
-    EXPECT_EQ(blur.GetScale(), 0.75);
-}
-
-TEST(BlurGaussian, ScaleIsReadWithStodAndKeepsNoRange)
-{
-    SettingsEffectBlurGaussian blur;
-    blur.Deserialize("SCALE=-12.5e");
-    EXPECT_EQ(blur.GetScale(), -12.5);
-    blur.Deserialize("x-scale=3");
-    EXPECT_EQ(blur.GetScale(), 3.0);
-    blur.Deserialize("rescale=7");
-    EXPECT_EQ(blur.GetScale(), 3.0);
-    blur.SetScale(-1e300);
-    EXPECT_EQ(blur.GetScale(), -1e300);
-}
-
-TEST(BlurGaussian, ConversionFailuresLeaveDeserialize)
-{
-    SettingsEffectBlurGaussian blur = Blur(1.0, false);
-    EXPECT_THROW(blur.Deserialize("scale=\"2\""), std::invalid_argument);
-    EXPECT_THROW(blur.Deserialize("scale=-"), std::invalid_argument);
-    EXPECT_THROW(blur.Deserialize("scale=1" + std::string(400, '0')), std::out_of_range);
-    EXPECT_EQ(blur.GetScale(), 1.0);
-    blur.Deserialize("scale=1e999"); // the numeric value pattern stops at 'e': the value is "1"
-    EXPECT_EQ(blur.GetScale(), 1.0);
-}
-
-TEST(BlurGaussian, ComparingTwoRecordsThrows)
-{
-    const SettingsEffectBlurGaussian a = Blur(1.0, false);
-    const SettingsEffectBlurGaussian b = Blur(1.0, false);
-    EXPECT_EQ(FormADescription<SettingsException>([&] { (void)a.IsEqualTo(b); }),
-              "Not implemented comparison for settings CLASS_ID = $$EffectBlurGaussian$$");
-}
-
-TEST(CrossClassComparison, BaseRecordComparesOnlyTheSpeedOfADerivedRecord)
+// The base record looks only at its own field; the reverse call and a foreign class never
+// answer false but raise bad_cast.
+TEST(ClassIdentity, CrossClassComparisonIsOneSided)
 {
     SettingsFilterSpeedUp speedUp;
     speedUp.SetSpeedUp(1.5);
@@ -220,53 +90,60 @@ TEST(CrossClassComparison, BaseRecordComparesOnlyTheSpeedOfADerivedRecord)
     EXPECT_TRUE(speedUp.IsEqualTo(video));
     video.SetSpeedUp(1.5001);
     EXPECT_FALSE(speedUp.IsEqualTo(video));
-}
-
-TEST(CrossClassComparison, DerivedRecordGivenTheBaseRecordRaisesBadCast)
-{
-    const SettingsFilterSpeedUp speedUp;
-    const SettingsFilterSpeedUpVideo video;
     EXPECT_THROW((void)video.IsEqualTo(speedUp), std::bad_cast);
+    EXPECT_THROW((void)speedUp.IsEqualTo(SettingsEffectBlurGaussian()), std::bad_cast);
 }
 
-TEST(CrossClassComparison, ForeignTypeRaisesBadCastNeverFalse)
+// The reference record: a scale wins over fast (fast is read only when scale is absent),
+// and map-form conversions read the longest prefix and let their exceptions out unwrapped.
+TEST(BlurGaussian, DeserializeChainsScaleBeforeFast)
 {
-    const SettingsFilterSpeedUp speedUp;
-    const SettingsEffectBlurGaussian blur;
-    EXPECT_THROW((void)speedUp.IsEqualTo(blur), std::bad_cast);
+    // The option string, then the scale and the flag it leaves, starting from 3 and true.
+    const std::tuple<std::string, double, bool> rows[] = {
+        // clang-format off
+        {"",          3, true},  {"scale=2.5:fast=0", 2.5, true},   {"fast=0:scale=1",  1, true},
+        {"fast=0",    3, false}, {"fast=-3",          3, true},     {"fast=00",         3, false},
+        {"fast=1.9",  3, true},  {"fast=0.9",         3, false},    {"fast=yes",        3, true},
+        {"scale=abc", 3, true},  {"scale=abc:fast=0", 3, false},    {"fast=0:scale=",   3, false},
+        {"x-scale=4", 4, true},  {"SCALE=-12.5e",     -12.5, true}, {"rescale=4",       3, true},
+        {"scale = 4", 3, true},  {"scale=4:scale=5",  4, true},     {"scale=1,5",       1, true},
+        {"scale=+5",  3, true},  {"scale=1.2.3",      1.2, true},   {"scale=1e999",     1, true},
+        // clang-format on
+    };
+    for (const auto& [options, scale, fast] : rows) {
+        SettingsEffectBlurGaussian blur = Blur(3.0, true);
+        blur.Deserialize(options);
+        EXPECT_EQ(blur.GetScale(), scale) << options;
+        EXPECT_EQ(blur.GetFast(), fast) << options;
+    }
+    const std::string invalid = typeid(std::invalid_argument).name();
+    const std::string range = typeid(std::out_of_range).name();
+    const std::pair<std::string, std::string> failures[] = {
+        // clang-format off
+        {R"(scale="2")", invalid}, {"scale=-", invalid}, {"scale=,5", invalid}, {R"(fast="1")", invalid},
+        {"fast=99999999999", range}, {"scale=1" + std::string(400, '0'), range},
+        {"scale=0." + std::string(400, '0') + "1", range},
+        // clang-format on
+    };
+    for (const auto& [options, type] : failures) {
+        SettingsEffectBlurGaussian blur = Blur(3.0, true);
+        EXPECT_EQ(ThrownType([&] { blur.Deserialize(options); }), type) << options;
+        EXPECT_EQ(blur.GetScale(), 3.0) << options;
+    }
 }
 
-// The three comparison rules of Part 1.1, Algorithms.
-TEST(NearlyEqual, DoubleRuleIsRelativeToTheSumAtMostAndBelowTheSmallestNormal)
+// At most |a + b| times epsilon, or strictly below the smallest normal value. 1 - eps and
+// 1 + eps differ by exactly 2 times epsilon, the bound itself.
+TEST(NearlyEqual, RelativeToTheSumAndBelowTheSmallestNormal)
 {
     constexpr double eps = 2.220446049250313e-16;
-    EXPECT_TRUE(NearlyEqual(0.0, 0.0));
-    EXPECT_TRUE(NearlyEqual(1.0, 1.0 + eps));                // difference eps <= 2.0000000000000002 * eps
-    EXPECT_FALSE(NearlyEqual(1.0, 1.0 + 4 * eps));           // 4 eps > (2 + 4 eps) eps
-    EXPECT_TRUE(NearlyEqual(1e-310, 0.0));                   // subnormal difference < smallest normal
-    EXPECT_FALSE(NearlyEqual(2.2250738585072014e-308, 0.0)); // not strictly below
-    EXPECT_TRUE(NearlyEqual(1.0, -1.0 + 2.0));
+    constexpr float epsF = 1.1920929e-7F;
+    EXPECT_TRUE(NearlyEqual(0.0, 0.0) && NearlyEqual(1.0 - eps, 1.0 + eps) && NearlyEqual(1e-310, 0.0));
+    EXPECT_FALSE(NearlyEqual(1.0, 1.0 + 4 * eps) || NearlyEqual(2.2250738585072014e-308, 0.0));
     EXPECT_FALSE(NearlyEqual(std::nan(""), std::nan("")));
-    EXPECT_FALSE(NearlyEqual(1.0, std::nan("")));
-}
-
-TEST(NearlyEqual, FloatRuleUsesTheFloatConstants)
-{
-    constexpr float eps = 1.1920929e-7f;
-    EXPECT_TRUE(NearlyEqual(1.0f, 1.0f + eps));
-    EXPECT_FALSE(NearlyEqual(1.0f, 1.0f + 4 * eps));
-    EXPECT_TRUE(NearlyEqual(1e-39f, 0.0f));
-    EXPECT_FALSE(NearlyEqual(1.1754944e-38f, 0.0f));
-    EXPECT_FALSE(NearlyEqual(std::nanf(""), 0.0f));
-}
-
-TEST(NearZero, HoldsOnlyAtZeroForNormalValuesAndForSubnormals)
-{
-    EXPECT_TRUE(NearZero(0.0));
-    EXPECT_TRUE(NearZero(-0.0));
-    EXPECT_TRUE(NearZero(4.9e-324));
-    EXPECT_FALSE(NearZero(1e-300));
-    EXPECT_TRUE(NearZero(0.0f));
-    EXPECT_TRUE(NearZero(1e-40f));
-    EXPECT_FALSE(NearZero(1e-30f));
+    EXPECT_TRUE(NearlyEqual(1.0F - epsF, 1.0F + epsF) && NearlyEqual(1e-39F, 0.0F));
+    EXPECT_FALSE(NearlyEqual(1.0F, 1.0F + 4 * epsF) || NearlyEqual(1.1754944e-38F, 0.0F));
+    EXPECT_FALSE(NearlyEqual(std::nanf(""), 0.0F));
+    EXPECT_TRUE(NearZero(-0.0) && NearZero(4.9e-324) && NearZero(1e-40F));
+    EXPECT_FALSE(NearZero(1e-300) || NearZero(1e-30F));
 }

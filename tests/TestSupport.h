@@ -58,4 +58,16 @@ std::string FormBDescription(F&& f, bool wrapped = true)
     return "<no exception>";
 }
 
+// The dynamic class of whatever f throws, compared by typeid name: "nothing" when f returns.
+template <class F>
+std::string ThrownType(F&& f)
+{
+    try {
+        f();
+    } catch (const std::exception& e) {
+        return typeid(e).name();
+    }
+    return "nothing";
+}
+
 } // namespace ZorvanTest
