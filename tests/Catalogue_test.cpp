@@ -40,9 +40,9 @@ const std::set<std::string> kNotLandedYet{
     "SettingsEffectMask", "SettingsEffectNegateVideo", "SettingsEffectNoiseVideo", "SettingsEffectPad",
     "SettingsEffectPosterize", "SettingsEffectRemoveGrain", "SettingsEffectRetroColors", "SettingsEffectSaturation",
     "SettingsEffectSharpen", "SettingsEffectShiftLuma", "SettingsEffectShiftUV", "SettingsEffectTemplateZES",
-    "SettingsEffectTransform", "SettingsFilterAudioVolume", "SettingsFilterBitStream",
-    "SettingsFilterBlurTransparentBorder", "SettingsFilterDurationTrimmer", "SettingsFilterFPSDoubler",
-    "SettingsFilterFrameRate", "SettingsFilterSlowMotion", "SettingsTransitionBarnDoor", "SettingsTransitionBlur",
+    "SettingsEffectTransform",
+   
+    "SettingsTransitionBarnDoor", "SettingsTransitionBlur",
     "SettingsTransitionCircle", "SettingsTransitionCross", "SettingsTransitionCrossfade",
     "SettingsTransitionDisintegrate", "SettingsTransitionFlash", "SettingsTransitionGlitch",
     "SettingsTransitionKenBurns", "SettingsTransitionLens", "SettingsTransitionMatrix",
