@@ -97,15 +97,17 @@ TEST(ColorBalance, SaturationAndGammaSlidersMapOnTwoSlopes)
             EXPECT_EQ(channel.GetFFGammaRed() * channel.GetFFGammaGreen() * channel.GetFFGammaBlue(), gamma);
         }
     }
-}
-
-TEST(ColorBalance, StoredFactorsReadBackTruncatedTowardZero)
-{
-    // Saturation and gamma stored, then read back as sliders: -99.5, 49.95 and 16.67 lean to zero.
-    for (const auto& [saturation, gamma, saturationSlider, gammaSlider] :
-         std::vector<std::tuple<double, double, int, int>>{
-             {0.005, 2.5, -99, 16}, {1.999, 0.1, 49, -100}, {std::nan(""), std::nan(""), 0, 0}}) {
+    // Factors stored directly are clamped as the sliders' results are, NaN apart; read back as
+    // sliders, -99.5, 49.95 and 16.67 lean toward zero and NaN gives 0.
+    // clang-format off
+    const std::vector<std::tuple<double, double, const char*, int, int>> stored{
+        {0.005, 2.5, "0 0 0.005 0 2.5 0 0 0 0", -99, 16}, {1.999, 0.1, "0 0 1.999 0 0.1 0 0 0 0", 49, -100},
+        {5.0, 11.0, "0 0 3.0 0 10.0 0 0 0 0", 100, 100}, {-1.0, 0.0, "0 0 0.0 0 0.1 0 0 0 0", -100, -100},
+        {NAN, NAN, "0 0 null 0 null 0 0 0 0", 0, 0}};
+    // clang-format on
+    for (const auto& [saturation, gamma, fields, saturationSlider, gammaSlider] : stored) {
         const Balance record = Make(saturation, gamma);
+        EXPECT_EQ(Fields(record), fields);
         EXPECT_EQ(record.GetSaturation(), saturationSlider) << saturation;
         EXPECT_EQ(record.GetGamma(), gammaSlider) << gamma;
     }
@@ -151,7 +153,7 @@ TEST(ColorBalance, EmptyLumaAndChroma)
         {Make(up, 1.0), T, F, F, F, F},                {Make(down, 1.0), T, F, F, F, F},
         {Make(1.0, up), T, F, F, F, F},                {Make(1.0, down), T, F, F, F, F},
         {Make(threeUp, 1.0), F, T, F, T, F},           {Make(1.0, threeUp), F, T, F, F, T},
-        {Make(std::nan(""), std::nan("")), F, T, F, T, T}};
+        {Make(NAN, NAN), F, T, F, T, T}};
     // clang-format on
     for (const auto& [record, empty, luma, chroma, saturation, gamma] : cases) {
         SCOPED_TRACE(Fields(record));
@@ -228,7 +230,7 @@ TEST(ColorBalance, ComparisonIsExactButNearlyEqualForSaturationAndGamma)
     }
 }
 
-TEST(BalanceChroma, SettersAndKeysClampTo100EitherWay)
+TEST(BalanceChroma, EachSetterAndKeyClampsItsOwnField)
 {
     const std::array<void (Chroma::*)(int), 9> setters{
         &Chroma::SetShadowsRed,    &Chroma::SetShadowsGreen,    &Chroma::SetShadowsBlue,
@@ -236,8 +238,8 @@ TEST(BalanceChroma, SettersAndKeysClampTo100EitherWay)
         &Chroma::SetHighlightsRed, &Chroma::SetHighlightsGreen, &Chroma::SetHighlightsBlue};
     for (std::size_t i = 0; i < setters.size(); ++i) {
         for (const auto& [given, stored] : std::vector<std::pair<int, int>>{
-                 {101, 100}, {100, 100}, {5, 5}, {-100, -100}, {-101, -100}, {INT_MAX, 100}, {INT_MIN, -100}}) {
-            SCOPED_TRACE(Chroma::s_params[i] + "=" + std::to_string(given));
+                 {101, 100}, {100, 100}, {-100, -100}, {-101, -100}, {INT_MAX, 100}, {INT_MIN, -100}}) {
+            const std::string option = Chroma::s_params[i] + "=" + std::to_string(given);
             std::string expected;
             for (std::size_t field = 0; field < setters.size(); ++field) {
                 expected += (field == i ? std::to_string(stored) : "0") + " ";
@@ -245,11 +247,10 @@ TEST(BalanceChroma, SettersAndKeysClampTo100EitherWay)
             Chroma bySetter;
             (bySetter.*setters[i])(given);
             Chroma byKey;
-            byKey.Deserialize(Chroma::s_params[i] + "=" + std::to_string(given));
-            EXPECT_EQ(Fields(bySetter), expected + "true");
-            EXPECT_EQ(Fields(byKey), expected + "true");
-            EXPECT_FALSE(byKey.IsEmpty());
-            EXPECT_FALSE(byKey == Chroma());
+            byKey.Deserialize(option);
+            EXPECT_EQ(Fields(bySetter), expected + "true") << option;
+            EXPECT_EQ(Fields(byKey), expected + "true") << option;
+            EXPECT_FALSE(byKey.IsEmpty() || byKey == Chroma()) << option;
         }
     }
     Chroma record;
