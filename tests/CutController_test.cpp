@@ -1,713 +1,291 @@
-// Part 2.2: the cut controller. Every expected value is worked out by hand from the
-// Part's Algorithms text (times in microseconds; OPEN is the open end, thirty days).
+// SettingsFilterCutController. Every expected list is worked out by hand; times are microseconds,
+// small counts unless a case needs the engine's real scale.
 #include <gtest/gtest.h>
-
-#include <deque>
-#include <limits>
-#include <ostream>
-#include <stdexcept>
-#include <typeinfo>
-#include <utility>
 
 #include "Proc/Settings/SettingsFilterCutController.h"
 #include "Proc/Settings/SettingsFilterSpeedUp.h"
 #include "TestSupport.h"
-#include "catalog/SettingsCatalog.h"
 
 using namespace Zorvan::Proc;
-using ZorvanTest::FormADescription;
 using ZorvanTest::FormBDescription;
 using Interval = SettingsFilterCutController::Interval;
 using Intervals = std::deque<Interval>;
 
 namespace Zorvan::Proc {
-// Readable failure output for intervals.
 void PrintTo(const SettingsFilterCutController::Interval& interval, std::ostream* os)
 {
     *os << "{" << interval.begin << ", " << interval.end << ", " << interval.deletedBefore << ", "
-        << (interval.deleted ? "deleted" : "kept") << "}";
+        << (interval.deleted ? "D" : "K") << "}";
 }
 } // namespace Zorvan::Proc
 
 namespace {
 
-constexpr avTime OPEN = SettingsFilterCutController::OPEN_END;
-constexpr avTime NO_TIME = SettingsFilterCutController::NO_TIME;
+constexpr avTime O = SettingsFilterCutController::OPEN_END;
+constexpr avTime NO = SettingsFilterCutController::NO_TIME;
 constexpr avTime MIN = std::numeric_limits<avTime>::min();
 constexpr avTime MAX = std::numeric_limits<avTime>::max();
+constexpr bool D = true;  // deleted
+constexpr bool K = false; // kept
 const std::string NOT_FOUND = "Can't find interval in SettingsFilterCutController";
 
-// Reaches the protected fields: lists the public operations cannot build (an empty one,
-// overlapping ones) and the remembered index.
+// Reaches raw lists, which the public operations cannot build, and the remembered index.
 class CutControllerAccess : public SettingsFilterCutController {
 public:
     void SetRawIntervals(Intervals list) { intervals = std::move(list); }
     int RememberedIndex() const { return index; }
 };
 
-// The default state with one kept stretch 1 s to 2 s (the example of Part 2.2).
-template <class C = SettingsFilterCutController>
-C OneKept()
+using Adds = std::vector<std::tuple<avTime, avTime, bool>>; // begin, end, deleted
+
+// The default state or a raw list, with intervals added; 777 as the time before each must be lost.
+CutControllerAccess Build(const Adds& adds, const std::optional<Intervals>& start = {})
 {
-    C cut;
-    cut.AddInterval(1'000'000, 2'000'000, 0, false);
+    CutControllerAccess cut;
+    cut.SetRawIntervals(start.value_or(cut.GetIntervals()));
+    for (const auto& [begin, end, deleted] : adds) {
+        cut.AddInterval(begin, end, 777, deleted);
+    }
     return cut;
 }
 
-// The default state with kept stretches 1-2 s, 3-4 s and 5-6 s: three seconds of result.
-template <class C = SettingsFilterCutController>
-C ThreeKept()
-{
-    C cut;
-    cut.AddInterval(1'000'000, 2'000'000, 0, false);
-    cut.AddInterval(3'000'000, 4'000'000, 0, false);
-    cut.AddInterval(5'000'000, 6'000'000, 0, false);
-    return cut;
-}
-
-const Intervals THREE_KEPT{
-    {0, 1'000'000, 0, true},
-    {1'000'000, 2'000'000, 1'000'000, false},
-    {2'000'000, 3'000'000, 1'000'000, true},
-    {3'000'000, 4'000'000, 2'000'000, false},
-    {4'000'000, 5'000'000, 2'000'000, true},
-    {5'000'000, 6'000'000, 3'000'000, false},
-    {6'000'000, OPEN, 3'000'000, true},
-};
+const Adds ONE_KEPT{{10, 20, K}};
+const Adds THREE_KEPT{{10, 20, K}, {30, 40, K}, {50, 60, K}};
+const Intervals THREE{{0, 10, 0, D},   {10, 20, 10, K}, {20, 30, 10, D}, {30, 40, 20, K},
+                      {40, 50, 20, D}, {50, 60, 30, K}, {60, O, 30, D}};
 
 } // namespace
 
-// --- Data model and default state --------------------------------------------------------
-
-TEST(CutController, ConstantsAreThirtyDaysAndTheSmallestTime)
+TEST(CutController, AddIntervalRebuildsTheList)
 {
-    EXPECT_EQ(SettingsFilterCutController::OPEN_END, 2592000000000);
-    EXPECT_EQ(SettingsFilterCutController::NO_TIME, -9223372036854775807LL - 1);
-    EXPECT_EQ(SettingsFilterCutController().GetClassId(), "$$FILTER_CUT_CONTROLLER$$");
-    EXPECT_EQ(&SettingsFilterCutController().GetClassId(), &SettingsFilterCutController::CLASS_ID);
+    const struct {
+        const char* what;
+        std::optional<Intervals> start; // a raw list instead of the default state
+        Adds adds;
+        Intervals expected;
+        bool enabled;
+        avTime overall; // of a source 100 long
+    } cases[] = {
+        // clang-format off
+        {"kept on the default state", {}, ONE_KEPT, {{0, 10, 0, D}, {10, 20, 10, K}, {20, O, 10, D}}, true, 10},
+        {"kept over everything", {}, {{0, O, K}}, {{0, O, 0, K}}, true, 100},
+        {"deleted on the default state", {}, {{20, 30, D}}, {{0, O, 0, D}}, false, 100},
+        {"deleted inside kept", {}, {{10, 50, K}, {20, 30, D}},
+            {{0, 10, 0, D}, {10, 20, 10, K}, {20, 30, 10, D}, {30, 50, 20, K}, {50, O, 20, D}}, true, 30},
+        {"kept inside deleted inside kept", {}, {{0, O, K}, {10, 50, D}, {20, 30, K}},
+            {{0, 10, 0, K}, {10, 20, 0, D}, {20, 30, 10, K}, {30, 50, 10, D}, {50, O, 30, K}}, true, 70},
+        {"deleted partly over kept", {}, {{10, 30, K}, {20, 40, D}},
+            {{0, 10, 0, D}, {10, 20, 10, K}, {20, O, 10, D}}, true, 10},
+        {"overlapping deletions merge", {}, {{0, O, K}, {10, 30, D}, {20, 40, D}},
+            {{0, 10, 0, K}, {10, 40, 0, D}, {40, O, 30, K}}, true, 70},
+        {"adjacent kept stretches merge", {}, {{10, 20, K}, {20, 30, K}},
+            {{0, 10, 0, D}, {10, 30, 10, K}, {30, O, 10, D}}, true, 20},
+        {"adjacent deletions merge", {}, {{0, O, K}, {10, 20, D}, {20, 30, D}},
+            {{0, 10, 0, K}, {10, 30, 0, D}, {30, O, 20, K}}, true, 80},
+        {"kept over a deletion undoes it", {}, {{0, O, K}, {10, 20, D}, {10, 20, K}}, {{0, O, 0, K}}, true, 100},
+        {"three kept stretches", {}, THREE_KEPT, THREE, true, 30},
+        {"a deletion across several", {}, {{10, 20, K}, {30, 40, K}, {50, 60, K}, {15, 55, D}},
+            {{0, 10, 0, D}, {10, 15, 10, K}, {15, 55, 10, D}, {55, 60, 50, K}, {60, O, 50, D}}, true, 10},
+        {"kept to the open end", {}, {{20, O, K}}, {{0, 20, 0, D}, {20, O, 20, K}}, true, 80},
+        {"a second kept stretch to the open end", {}, {{10, 20, K}, {40, O, K}},
+            {{0, 10, 0, D}, {10, 20, 10, K}, {20, 40, 10, D}, {40, O, 30, K}}, true, 70},
+        {"zero length on the default state", {}, {{30, 30, K}}, {{0, O, 0, D}}, false, 100},
+        // The midpoint of -1 and 0 truncates to 0, outside [-1, 0): the default interval holds it.
+        {"midpoint toward zero", {}, {{-1, 0, K}}, {{-1, O, 0, D}}, false, 100},
+        {"midpoint -1", {}, {{-2, 0, K}}, {{-2, 0, 0, K}, {0, O, 0, D}}, true, 2},
+        // MIN + MAX is -1, its half 0; MAX - MIN wraps to -1.
+        {"extreme times", {}, {{MIN, MAX, K}}, {{MIN, MAX, 0, K}}, true, -1},
+        {"what no interval covers is kept", Intervals{{0, 10, 0, D}, {20, 30, 0, D}}, {},
+            {{0, 10, 0, D}, {10, 20, 10, K}, {20, 30, 10, D}}, true, 10},
+        {"kept added to an empty list", Intervals{}, ONE_KEPT, {{10, 20, 0, K}}, true, 10},
+        {"a lone zero-length interval leaves nothing", Intervals{{5, 5, 0, K}}, {}, {}, false, 100},
+        // clang-format on
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        CutControllerAccess cut = Build(row.adds, row.start);
+        if (!row.adds.empty()) {
+            EXPECT_EQ(cut.GetIntervals(), row.expected);
+        }
+        cut.UpdateOptimizedList(); // a rebuilt list rebuilds to itself
+        EXPECT_EQ(cut.GetIntervals(), row.expected);
+        EXPECT_EQ(cut.GetIntervalCount(), row.expected.size());
+        EXPECT_EQ(cut.IsEnabled(), row.enabled);
+        EXPECT_EQ(cut.GetOverallDuration(100), row.overall);
+    }
 }
 
-TEST(CutController, IntervalIsAnAggregateInDeclaredOrderComparedOnAllFourFields)
+TEST(CutController, MapsBetweenSourceAndResultTime)
 {
-    const Interval interval{1, 2, 3, true};
-    EXPECT_EQ(interval.begin, 1);
-    EXPECT_EQ(interval.end, 2);
-    EXPECT_EQ(interval.deletedBefore, 3);
-    EXPECT_TRUE(interval.deleted);
-    EXPECT_EQ(interval, (Interval{1, 2, 3, true}));
-    EXPECT_NE(interval, (Interval{0, 2, 3, true}));
-    EXPECT_NE(interval, (Interval{1, 0, 3, true}));
-    EXPECT_NE(interval, (Interval{1, 2, 0, true}));
-    EXPECT_NE(interval, (Interval{1, 2, 3, false}));
-    const SettingsFilterCutController::PointInfo point{};
-    EXPECT_EQ(point.time, 0);
-    EXPECT_FALSE(point.flag);
+    using Pairs = std::vector<std::pair<avTime, avTime>>;
+    const struct {
+        const char* what;
+        std::optional<Intervals> start;
+        Adds adds;
+        Pairs source2Result, result2Source;
+    } cases[] = {
+        // clang-format off
+        // 0 minus the no-time value wraps round to the no-time value.
+        {"default state", {}, {}, {{0, NO}, {1'000'000, NO}}, {{0, NO}, {500'000, NO}}},
+        {"rebuilt default state", {}, {{30, 30, K}}, {{1'000'000, 0}}, {{0, NO}}},
+        {"one kept second", {}, {{1'000'000, 2'000'000, K}},
+            {{1'500'000, 500'000}, {3'000'000, 1'000'000}, {500'000, 0}, {-3, 0}},
+            {{500'000, 1'500'000}, {0, 1'000'000}, {1'000'000, NO}}},
+        {"three kept", {}, THREE_KEPT, {{0, 0}, {10, 0}, {25, 10}, {30, 10}, {55, 25}, {80, 30}, {O - 1, 30}},
+            {{0, 10}, {10, 30}, {25, 55}, {29, 59}, {30, NO}, {-1, NO}}},
+        // One kept interval: the identity, unchecked; a negative time is 0 for the lookup alone.
+        {"everything kept", {}, {{0, O, K}}, {{10, 10}, {-5, -5}}, {{0, 0}, {-7, -7}, {O + 5, O + 5}}},
+        {"overlapping deletions", {}, {{0, O, K}, {10, 30, D}, {20, 40, D}}, {{50, 20}, {20, 10}},
+            {{20, 50}, {9, 9}, {10, 40}}},
+        {"kept to the open end", {}, {{20, O, K}}, {{1'000'000'000'000, 999'999'999'980}}, {{10, 30}}},
+        {"extremes", {}, {{MIN, MAX, K}}, {{5, 5}}, {{MAX, MAX}}}, {"below zero", {}, {{-10, 0, K}}, {{-5, 0}}, {}},
+        {"lone kept", Intervals{}, ONE_KEPT, {{15, 15}}, {{5, 5}}}, {"empty list", Intervals{}, {}, {}, {{0, NO}}},
+        // clang-format on
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        const CutControllerAccess cut = Build(row.adds, row.start);
+        for (const auto& [source, result] : row.source2Result) {
+            EXPECT_EQ(cut.Source2Result(source), result) << source;
+        }
+        for (const auto& [result, source] : row.result2Source) {
+            EXPECT_EQ(cut.Result2Source(result), source) << result;
+        }
+    }
 }
 
-TEST(CutController, DefaultStateIsOneDeletedIntervalWithNoTimeBefore)
+TEST(CutController, LookupsReadTheIntervalThatHoldsTheTimeOrThePosition)
 {
-    const CutControllerAccess cut;
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, OPEN, NO_TIME, true}}));
-    EXPECT_EQ(cut.GetIntervalCount(), 1U);
-    EXPECT_EQ(cut.GetOptInterval(0), (Interval{0, OPEN, NO_TIME, true}));
-    EXPECT_EQ(cut.RememberedIndex(), -1);
-}
-
-TEST(CutController, DefaultStateIsDisabledKeepsTheSourceDurationAndMapsNoResultTime)
-{
-    const SettingsFilterCutController cut;
-    EXPECT_FALSE(cut.IsEnabled());
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 5'000'000);
-    EXPECT_EQ(cut.GetOverallDuration(0), 0);
-    EXPECT_EQ(cut.Result2Source(0), NO_TIME);
-    EXPECT_EQ(cut.Result2Source(500'000), NO_TIME);
-    EXPECT_EQ(cut.GetIntervalIndex(0), 0);
-    EXPECT_EQ(cut.GetIntervalIndex(1'000'000), 0);
-    EXPECT_EQ(cut.GetIntervalIndex(OPEN - 1), 0);
-    EXPECT_EQ(cut.GetIntervalIndex(-5), 0);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalIndex(OPEN); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalIndex(OPEN + 1); }), NOT_FOUND);
-}
-
-TEST(CutController, DefaultStateSource2ResultWrapsTheNoTimeDeletedBefore)
-{
-    // The deleted interval maps to its begin 0; 0 minus the no-time value wraps around
-    // (unsigned arithmetic, CONVENTIONS.md) to the no-time value itself.
-    const SettingsFilterCutController cut;
-    EXPECT_EQ(cut.Source2Result(1'000'000), NO_TIME);
-    EXPECT_EQ(cut.Source2Result(0), NO_TIME);
-}
-
-TEST(CutController, RebuildingTheDefaultStateSetsDeletedBeforeToZero)
-{
-    // Step 8 starts the running sum at 0, so the no-time mark does not survive a rebuild.
-    SettingsFilterCutController cut;
-    cut.UpdateOptimizedList();
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, OPEN, 0, true}}));
-    EXPECT_FALSE(cut == SettingsFilterCutController());
-    EXPECT_FALSE(cut.IsEnabled());
-    EXPECT_EQ(cut.Source2Result(1'000'000), 0);
-}
-
-TEST(CutController, TimeInIntervalIsHalfOpen)
-{
-    const Interval interval{10, 20, 0, false};
-    EXPECT_FALSE(TimeInInterval(9, interval));
-    EXPECT_TRUE(TimeInInterval(10, interval));
-    EXPECT_TRUE(TimeInInterval(19, interval));
-    EXPECT_FALSE(TimeInInterval(20, interval));
-    EXPECT_FALSE(TimeInInterval(10, Interval{10, 10, 0, false}));
-    EXPECT_FALSE(TimeInInterval(15, Interval{20, 10, 0, true}));
-}
-
-// --- AddInterval and UpdateOptimizedList ----------------------------------------------
-
-TEST(CutController, KeptIntervalOnTheDefaultStateGivesDeletedKeptDeleted)
-{
-    const auto cut = OneKept();
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 2'000'000, 1'000'000, false},
-                                             {2'000'000, OPEN, 1'000'000, true}}));
-    EXPECT_TRUE(cut.IsEnabled());
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 1'000'000);
-    EXPECT_EQ(cut.Source2Result(1'500'000), 500'000);
-    EXPECT_EQ(cut.Source2Result(3'000'000), 1'000'000);
-    EXPECT_EQ(cut.Result2Source(500'000), 1'500'000);
-    EXPECT_EQ(cut.Result2Source(1'000'000), NO_TIME);
-}
-
-TEST(CutController, ThirdArgumentOfAddIntervalIsLostInTheRebuild)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(1'000'000, 2'000'000, 777, false);
-    EXPECT_EQ(cut.GetIntervals(), OneKept().GetIntervals());
-    cut.AddInterval(3'000'000, 4'000'000, -123'456'789, false);
-    EXPECT_EQ(cut.GetOptInterval(3), (Interval{3'000'000, 4'000'000, 2'000'000, false}));
-}
-
-TEST(CutController, KeptIntervalOverTheWholeDeletedPartMergesIntoOneKeptInterval)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(0, OPEN, 0, false);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, OPEN, 0, false}}));
-    EXPECT_TRUE(cut.IsEnabled());
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 5'000'000);
-    // Result2Source with one kept interval: the time itself, without any check.
-    EXPECT_EQ(cut.Result2Source(0), 0);
-    EXPECT_EQ(cut.Result2Source(123'456), 123'456);
-    EXPECT_EQ(cut.Result2Source(-7), -7);
-    EXPECT_EQ(cut.Result2Source(OPEN + 5), OPEN + 5);
-    EXPECT_EQ(cut.Source2Result(1'000'000), 1'000'000);
-    // The negative-time rule applies to the lookup alone.
-    EXPECT_EQ(cut.Source2Result(-5), -5);
-}
-
-TEST(CutController, LaterIntervalOverridesEarlierOnlyWhereTheyOverlap)
-{
-    SettingsFilterCutController keptThenDeleted;
-    keptThenDeleted.AddInterval(1'000'000, 5'000'000, 0, false);
-    keptThenDeleted.AddInterval(2'000'000, 3'000'000, 0, true);
-    EXPECT_EQ(keptThenDeleted.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                                         {1'000'000, 2'000'000, 1'000'000, false},
-                                                         {2'000'000, 3'000'000, 1'000'000, true},
-                                                         {3'000'000, 5'000'000, 2'000'000, false},
-                                                         {5'000'000, OPEN, 2'000'000, true}}));
-    EXPECT_EQ(keptThenDeleted.GetOverallDuration(10'000'000), 3'000'000);
-
-    // The other order: the kept interval added last wins over the deleted one.
-    SettingsFilterCutController deletedThenKept;
-    deletedThenKept.AddInterval(2'000'000, 3'000'000, 0, true);
-    EXPECT_EQ(deletedThenKept.GetIntervals(), (Intervals{{0, OPEN, 0, true}}));
-    deletedThenKept.AddInterval(1'000'000, 5'000'000, 0, false);
-    EXPECT_EQ(deletedThenKept.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                                         {1'000'000, 5'000'000, 1'000'000, false},
-                                                         {5'000'000, OPEN, 1'000'000, true}}));
-}
-
-TEST(CutController, PartlyOverlappingDeletedIntervalKeepsTheEarlierKeptPartOutsideIt)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(1'000'000, 3'000'000, 0, false);
-    cut.AddInterval(2'000'000, 4'000'000, 0, true);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 2'000'000, 1'000'000, false},
-                                             {2'000'000, OPEN, 1'000'000, true}}));
-}
-
-TEST(CutController, OverlappingDeletedIntervalsMergeIntoOne)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(0, OPEN, 0, false);
-    cut.AddInterval(1'000'000, 3'000'000, 0, true);
-    EXPECT_EQ(
-        cut.GetIntervals(),
-        (Intervals{{0, 1'000'000, 0, false}, {1'000'000, 3'000'000, 0, true}, {3'000'000, OPEN, 2'000'000, false}}));
-    cut.AddInterval(2'000'000, 4'000'000, 0, true);
-    EXPECT_EQ(
-        cut.GetIntervals(),
-        (Intervals{{0, 1'000'000, 0, false}, {1'000'000, 4'000'000, 0, true}, {4'000'000, OPEN, 3'000'000, false}}));
-    EXPECT_EQ(cut.GetOverallDuration(10'000'000), 7'000'000);
-    EXPECT_EQ(cut.Source2Result(5'000'000), 2'000'000);
-    EXPECT_EQ(cut.Source2Result(2'000'000), 1'000'000);
-    EXPECT_EQ(cut.Result2Source(2'000'000), 5'000'000);
-    EXPECT_EQ(cut.Result2Source(999'999), 999'999);
-    EXPECT_EQ(cut.Result2Source(1'000'000), 4'000'000);
-}
-
-TEST(CutController, AdjacentKeptIntervalsMerge)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(1'000'000, 2'000'000, 0, false);
-    cut.AddInterval(2'000'000, 3'000'000, 0, false);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 3'000'000, 1'000'000, false},
-                                             {3'000'000, OPEN, 1'000'000, true}}));
-}
-
-TEST(CutController, StretchesThatNoIntervalCoversCountAsKept)
-{
-    CutControllerAccess cut;
-    cut.SetRawIntervals({{0, 1'000'000, 0, true}, {2'000'000, 3'000'000, 0, true}});
-    cut.UpdateOptimizedList();
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 2'000'000, 1'000'000, false},
-                                             {2'000'000, 3'000'000, 1'000'000, true}}));
-}
-
-TEST(CutController, ThreeKeptStretchesAlternateWithRunningDeletedBefore)
-{
-    const auto cut = ThreeKept();
-    EXPECT_EQ(cut.GetIntervals(), THREE_KEPT);
-    EXPECT_EQ(cut.GetIntervalCount(), 7U);
-    EXPECT_EQ(cut.GetOverallDuration(10'000'000), 3'000'000);
-    // Rebuilding an optimised list changes nothing.
-    auto again = cut;
-    again.UpdateOptimizedList();
-    EXPECT_EQ(again.GetIntervals(), THREE_KEPT);
-}
-
-TEST(CutController, ZeroLengthIntervalAddsNoStretch)
-{
-    SettingsFilterCutController onDefault;
-    onDefault.AddInterval(3'000'000, 3'000'000, 0, false);
-    EXPECT_EQ(onDefault.GetIntervals(), (Intervals{{0, OPEN, 0, true}}));
-    EXPECT_FALSE(onDefault.IsEnabled());
-
-    auto onKept = OneKept();
-    onKept.AddInterval(1'500'000, 1'500'000, 0, true);
-    EXPECT_EQ(onKept.GetIntervals(), OneKept().GetIntervals());
-}
-
-TEST(CutController, ListHoldingOnlyAZeroLengthIntervalComesOutEmpty)
-{
-    CutControllerAccess cut;
-    cut.SetRawIntervals({{5, 5, 0, false}});
-    cut.UpdateOptimizedList();
-    EXPECT_EQ(cut.GetIntervalCount(), 0U);
-    EXPECT_FALSE(cut.IsEnabled());
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetOptInterval(0); }), "No intervals created");
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 5'000'000);
-    EXPECT_EQ(cut.Result2Source(0), NO_TIME);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalIndex(0); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.Source2Result(0); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.IsPointDeleted(0); }), NOT_FOUND);
-    EXPECT_FALSE(cut.IsEmpty());
-
-    cut.AddInterval(7, 7, 0, true);
-    EXPECT_EQ(cut.GetIntervalCount(), 0U);
-    cut.CutToDuration(1'000'000, 5'000'000);
-    EXPECT_EQ(cut.GetIntervalCount(), 0U);
-}
-
-TEST(CutController, KeptIntervalAddedToAnEmptyListStandsAlone)
-{
-    CutControllerAccess cut;
-    cut.SetRawIntervals({});
-    cut.AddInterval(1'000'000, 2'000'000, 0, false);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{1'000'000, 2'000'000, 0, false}}));
-    EXPECT_TRUE(cut.IsEnabled());
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 1'000'000);
-    EXPECT_EQ(cut.Result2Source(5), 5);
-    EXPECT_EQ(cut.Source2Result(1'500'000), 1'500'000);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalIndex(500'000); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalIndex(2'000'000); }), NOT_FOUND);
-}
-
-TEST(CutController, MidpointTruncatesTowardZero)
-{
-    // Points -1, 0, OPEN: the midpoint of -1 and 0 is 0, outside [-1, 0), so the
-    // default deleted interval holds it and everything merges into one deleted stretch.
-    SettingsFilterCutController minusOne;
-    minusOne.AddInterval(-1, 0, 0, false);
-    EXPECT_EQ(minusOne.GetIntervals(), (Intervals{{-1, OPEN, 0, true}}));
-
-    // Points -2, 0, OPEN: the midpoint -1 lies in [-2, 0), which stays kept.
-    SettingsFilterCutController minusTwo;
-    minusTwo.AddInterval(-2, 0, 0, false);
-    EXPECT_EQ(minusTwo.GetIntervals(), (Intervals{{-2, 0, 0, false}, {0, OPEN, 0, true}}));
-}
-
-TEST(CutController, ExtremeTimesWrapAroundInsteadOfOverflowing)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(MIN, MAX, 0, false);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{MIN, MAX, 0, false}}));
-    EXPECT_EQ(cut.Result2Source(MAX), MAX);
-    EXPECT_EQ(cut.Source2Result(5), 5);
-    // MAX - MIN wraps to -1 (unsigned arithmetic, CONVENTIONS.md).
-    EXPECT_EQ(cut.GetIntervalLength(0), -1);
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), -1);
-
-    CutControllerAccess raw;
-    raw.SetRawIntervals({{MIN, MAX, 0, true}});
-    raw.UpdateOptimizedList(); // midpoint of MIN and MAX: 0
-    EXPECT_EQ(raw.GetIntervals(), (Intervals{{MIN, MAX, 0, true}}));
-}
-
-// --- GetIntervalIndex and the remembered index ----------------------------------------
-
-TEST(CutController, GetIntervalIndexOfANegativeTimeFindsTheIntervalHoldingZero)
-{
-    const auto oneKept = OneKept();
-    EXPECT_EQ(oneKept.GetIntervalIndex(-5), 0);
-
-    SettingsFilterCutController cut;
-    cut.AddInterval(-10, 0, 0, false);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{-10, 0, 0, false}, {0, OPEN, 0, true}}));
-    EXPECT_EQ(cut.GetIntervalIndex(-5), 1);
-    EXPECT_TRUE(cut.IsPointDeleted(-5));
-    EXPECT_EQ(cut.Source2Result(-5), 0);
-    EXPECT_EQ(cut.GetIntervalBeginTime(-5), 0);
+    const struct {
+        std::optional<Intervals> start;
+        Adds adds;
+        avTime time;
+        int index; // -1: not found
+        bool deleted = false;
+        avTime begin = 0, end = 0, length = 0;
+    } cases[] = {
+        // clang-format off
+        {{}, {}, 0, 0, D, 0, O, O},               {{}, {}, -5, 0, D, 0, O, O},
+        {{}, {}, O - 1, 0, D, 0, O, O},           {{}, {}, O, -1}, {{}, {}, O + 1, -1},
+        {{}, ONE_KEPT, -3, 0, D, 0, 10, 10},      {{}, ONE_KEPT, 9, 0, D, 0, 10, 10},
+        {{}, ONE_KEPT, 10, 1, K, 10, 20, 10},     {{}, ONE_KEPT, 19, 1, K, 10, 20, 10},
+        {{}, ONE_KEPT, 20, 2, D, 20, O, O - 20},  {{}, ONE_KEPT, O, -1},
+        {{}, {{-10, 0, K}}, -5, 1, D, 0, O, O},   {{}, {{MIN, MAX, K}}, 0, 0, K, MIN, MAX, -1},
+        {Intervals{}, {}, 0, -1},                 {Intervals{}, ONE_KEPT, 5, -1}, {Intervals{}, ONE_KEPT, 20, -1},
+        // clang-format on
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.time);
+        const CutControllerAccess cut = Build(row.adds, row.start);
+        if (row.index < 0) {
+            const auto fails = [&](auto lookup) {
+                return FormBDescription<std::logic_error>([&] { (void)(cut.*lookup)(row.time); }) == NOT_FOUND;
+            };
+            using C = SettingsFilterCutController;
+            EXPECT_TRUE(fails(&C::GetIntervalIndex) && fails(&C::Source2Result) && fails(&C::IsPointDeleted));
+            EXPECT_TRUE(fails(&C::GetIntervalLength) && fails(&C::GetIntervalBeginTime) &&
+                        fails(&C::GetIntervalEndTime));
+            continue;
+        }
+        EXPECT_EQ(cut.GetIntervalIndex(row.time), row.index);
+        EXPECT_EQ(cut.IsPointDeleted(row.time), row.deleted);
+        EXPECT_EQ(cut.GetIntervalBeginTime(row.time), row.begin);
+        EXPECT_EQ(cut.GetIntervalEndTime(row.time), row.end);
+        EXPECT_EQ(cut.GetIntervalLength(row.time), row.length);
+    }
+    EXPECT_TRUE(TimeInInterval(10, Interval{10, 20, 0, K}) && !TimeInInterval(20, Interval{10, 20, 0, K}));
+    EXPECT_EQ(Build(ONE_KEPT).GetOptInterval(2), (Interval{20, O, 10, D}));
+    for (const std::size_t position : {std::size_t{3}, std::numeric_limits<std::size_t>::max()}) {
+        EXPECT_EQ(FormBDescription<std::logic_error>([&] { (void)Build(ONE_KEPT).GetOptInterval(position); }),
+                  "Incorrect interval index");
+    }
+    EXPECT_EQ(FormBDescription<std::logic_error>([&] { (void)Build({}, Intervals{}).GetOptInterval(0); }),
+              "No intervals created");
 }
 
 TEST(CutController, GetIntervalIndexRemembersTheIntervalFoundLast)
 {
-    auto cut = ThreeKept<CutControllerAccess>();
-    EXPECT_EQ(cut.RememberedIndex(), -1);
-    EXPECT_EQ(cut.GetIntervalIndex(1'500'000), 1);
-    EXPECT_EQ(cut.RememberedIndex(), 1);
-    EXPECT_EQ(cut.GetIntervalIndex(1'200'000), 1);
-    EXPECT_EQ(cut.GetIntervalIndex(8'000'000), 6);
-    EXPECT_EQ(cut.RememberedIndex(), 6);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalIndex(OPEN); }), NOT_FOUND);
-    EXPECT_EQ(cut.RememberedIndex(), 6);
-    EXPECT_EQ(cut.Source2Result(3'500'000), 1'500'000);
+    CutControllerAccess cut = Build(THREE_KEPT);
+    EXPECT_EQ(cut.Source2Result(35), 15);
+    EXPECT_EQ(FormBDescription<std::logic_error>([&] { (void)cut.GetIntervalIndex(O); }), NOT_FOUND);
     EXPECT_EQ(cut.RememberedIndex(), 3);
-    cut.UpdateOptimizedList();
+    cut.CutToDuration(30, 100); // changes nothing but the index
+    EXPECT_EQ(cut.GetIntervals(), THREE);
     EXPECT_EQ(cut.RememberedIndex(), -1);
-    cut.GetIntervalEndTime(0);
-    EXPECT_EQ(cut.RememberedIndex(), 0);
-    cut.AddInterval(7'000'000, 7'000'000, 0, false);
+    EXPECT_EQ(cut.GetIntervalEndTime(75), O);
+    EXPECT_EQ(cut.RememberedIndex(), 6);
+    cut.AddInterval(70, 70, 0, K); // every rebuild forgets it
     EXPECT_EQ(cut.RememberedIndex(), -1);
-}
-
-TEST(CutController, RememberedIndexWinsWhileItsIntervalHoldsTheTime)
-{
-    // Overlapping intervals, as only a raw list holds them: the cache decides.
-    CutControllerAccess cut;
-    cut.SetRawIntervals({{0, 10, 0, false}, {5, 15, 0, true}});
-    EXPECT_EQ(cut.GetIntervalIndex(12), 1);
-    EXPECT_EQ(cut.GetIntervalIndex(7), 1);
-    EXPECT_TRUE(cut.IsPointDeleted(7));
-    EXPECT_EQ(cut.GetIntervalIndex(2), 0);
-    EXPECT_EQ(cut.GetIntervalIndex(7), 0);
-    EXPECT_FALSE(cut.IsPointDeleted(7));
-}
-
-TEST(CutController, RememberedIndexPastTheCountIsIgnored)
-{
-    auto cut = OneKept<CutControllerAccess>();
-    EXPECT_EQ(cut.GetIntervalIndex(3'000'000), 2);
-    cut.SetRawIntervals({{0, 10, 0, false}});
-    EXPECT_EQ(cut.RememberedIndex(), 2);
+    // One past the count is ignored.
+    cut.SetRawIntervals({{0, 10, 0, K}, {10, 20, 0, D}});
+    EXPECT_EQ(cut.GetIntervalIndex(15), 1);
+    cut.SetRawIntervals({{0, 10, 0, K}});
     EXPECT_EQ(cut.GetIntervalIndex(5), 0);
     EXPECT_EQ(cut.RememberedIndex(), 0);
 }
 
-// --- Mappings and lookups -------------------------------------------------------------
-
-TEST(CutController, Source2ResultMapsDeletedTimesToTheCutAndKeptTimesRoundTrip)
+TEST(CutController, CutToDurationDeletesFromTheEndOfTheKeptMaterial)
 {
-    const auto cut = ThreeKept();
-    EXPECT_EQ(cut.Source2Result(0), 0);
-    EXPECT_EQ(cut.Source2Result(1'000'000), 0);
-    EXPECT_EQ(cut.Source2Result(2'500'000), 1'000'000);
-    EXPECT_EQ(cut.Source2Result(3'000'000), 1'000'000);
-    EXPECT_EQ(cut.Source2Result(5'500'000), 2'500'000);
-    EXPECT_EQ(cut.Source2Result(8'000'000), 3'000'000);
-    EXPECT_EQ(cut.Source2Result(OPEN - 1), 3'000'000);
-    EXPECT_EQ(cut.Result2Source(0), 1'000'000);
-    EXPECT_EQ(cut.Result2Source(1'000'000), 3'000'000);
-    EXPECT_EQ(cut.Result2Source(2'500'000), 5'500'000);
-    EXPECT_EQ(cut.Result2Source(2'999'999), 5'999'999);
-    EXPECT_EQ(cut.Result2Source(3'000'000), NO_TIME);
-    EXPECT_EQ(cut.Result2Source(-1), NO_TIME);
-    for (const avTime time : {1'000'000, 1'500'000, 1'999'999, 3'000'000, 3'700'000, 5'000'000, 5'999'999}) {
-        EXPECT_EQ(cut.Result2Source(cut.Source2Result(time)), time) << time;
+    const struct {
+        const char* what;
+        std::optional<Intervals> start;
+        Adds adds;
+        avTime target, source;
+        Intervals expected;
+        avTime overall;
+    } cases[] = {
+        // clang-format off
+        {"the overall length", {}, THREE_KEPT, 30, 100, THREE, 30}, {"above it", {}, THREE_KEPT, 40, 100, THREE, 30},
+        {"inside the last kept stretch", {}, THREE_KEPT, 25, 100, {{0, 10, 0, D}, {10, 20, 10, K}, {20, 30, 10, D},
+            {30, 40, 20, K}, {40, 50, 20, D}, {50, 55, 30, K}, {55, O, 30, D}}, 25},
+        {"a stretch as long as the excess goes whole", {}, THREE_KEPT, 20, 100,
+            {{0, 10, 0, D}, {10, 20, 10, K}, {20, 30, 10, D}, {30, 40, 20, K}, {40, O, 20, D}}, 20},
+        {"back over several", {}, THREE_KEPT, 5, 100, {{0, 10, 0, D}, {10, 15, 10, K}, {15, O, 10, D}}, 5},
+        {"the stored open end stays", {}, {{20, O, K}}, 10, 50, {{0, 20, 0, D}, {20, 30, 20, K}, {30, O, 20, D}}, 10},
+        // The open-ended stretch counts 10 of a source 50 long, leaving 5 to cut.
+        {"an open end counts to the source", {}, {{10, 20, K}, {40, O, K}}, 5, 50,
+            {{0, 10, 0, D}, {10, 15, 10, K}, {15, O, 10, D}}, 5},
+        // With nothing kept the walk stops; a lone deleted interval counts as no cut list.
+        {"to zero", {}, ONE_KEPT, 0, 50, {{0, O, 0, D}}, 50}, {"below zero", {}, ONE_KEPT, -1, 50, {{0, O, 0, D}}, 50},
+        {"nothing kept", {}, {}, 10, 50, {{0, O, 0, D}}, 50}, {"an empty list", Intervals{}, {}, 10, 50, {}, 50},
+        // clang-format on
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        CutControllerAccess cut = Build(row.adds, row.start);
+        cut.CutToDuration(row.target, row.source);
+        EXPECT_EQ(cut.GetIntervals(), row.expected);
+        EXPECT_EQ(cut.GetOverallDuration(row.source), row.overall);
     }
 }
 
-TEST(CutController, LookupsReadTheIntervalThatHoldsTheTime)
+TEST(CutController, ComparisonLooksAtEveryFieldOfEveryIntervalButNotTheIndex)
 {
-    const auto cut = OneKept();
-    EXPECT_TRUE(cut.IsPointDeleted(500'000));
-    EXPECT_FALSE(cut.IsPointDeleted(1'000'000));
-    EXPECT_FALSE(cut.IsPointDeleted(1'999'999));
-    EXPECT_TRUE(cut.IsPointDeleted(2'000'000));
-    EXPECT_TRUE(cut.IsPointDeleted(-3));
-    EXPECT_EQ(cut.GetIntervalLength(0), 1'000'000);
-    EXPECT_EQ(cut.GetIntervalLength(1'500'000), 1'000'000);
-    EXPECT_EQ(cut.GetIntervalLength(3'000'000), 2591998000000);
-    EXPECT_EQ(cut.GetIntervalBeginTime(-1), 0);
-    EXPECT_EQ(cut.GetIntervalEndTime(-1), 1'000'000);
-    EXPECT_EQ(cut.GetIntervalBeginTime(1'000'000), 1'000'000);
-    EXPECT_EQ(cut.GetIntervalEndTime(1'000'000), 2'000'000);
-    EXPECT_EQ(cut.GetIntervalBeginTime(3'000'000), 2'000'000);
-    EXPECT_EQ(cut.GetIntervalEndTime(3'000'000), OPEN);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.IsPointDeleted(OPEN); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalLength(OPEN); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalBeginTime(OPEN); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetIntervalEndTime(OPEN); }), NOT_FOUND);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.Source2Result(OPEN); }), NOT_FOUND);
+    const CutControllerAccess a = Build(ONE_KEPT);
+    EXPECT_EQ(a.GetIntervalIndex(15), 1);
+    EXPECT_TRUE(a == Build(ONE_KEPT));
+    EXPECT_TRUE(a.IsEqualTo(Build(ONE_KEPT)));
+    const Intervals base{{0, 10, 5, D}, {10, 20, 15, K}};
+    for (const Intervals& other : {Intervals{{0, 10, 5, D}, {11, 20, 15, K}}, Intervals{{0, 10, 5, D}, {10, 21, 15, K}},
+                                   Intervals{{0, 10, 5, D}, {10, 20, 16, K}}, Intervals{{0, 10, 5, D}, {10, 20, 15, D}},
+                                   Intervals{{0, 10, 5, D}}}) {
+        EXPECT_FALSE(Build({}, base) == Build({}, other));
+        EXPECT_FALSE(Build({}, base).IsEqualTo(Build({}, other)));
+    }
+    EXPECT_THROW((void)a.IsEqualTo(SettingsFilterSpeedUp()), std::bad_cast);
 }
 
-TEST(CutController, GetOptIntervalReturnsByPositionAndRejectsPositionsPastTheEnd)
+TEST(CutController, ResetReturnsToTheDefaultStateAndCloneCopiesTheListAndTheIndex)
 {
-    const auto cut = OneKept();
-    EXPECT_EQ(cut.GetOptInterval(0), (Interval{0, 1'000'000, 0, true}));
-    EXPECT_EQ(cut.GetOptInterval(1), (Interval{1'000'000, 2'000'000, 1'000'000, false}));
-    EXPECT_EQ(cut.GetOptInterval(2), (Interval{2'000'000, OPEN, 1'000'000, true}));
-    EXPECT_EQ(&cut.GetOptInterval(1), &cut.GetIntervals()[1]);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetOptInterval(3); }), "Incorrect interval index");
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { cut.GetOptInterval(std::numeric_limits<std::size_t>::max()); }),
-              "Incorrect interval index");
-}
-
-// --- GetOverallDuration and CutToDuration ---------------------------------------------
-
-TEST(CutController, OpenEndedKeptIntervalCountsUpToTheSourceDuration)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(2'000'000, OPEN, 0, false);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 2'000'000, 0, true}, {2'000'000, OPEN, 2'000'000, false}}));
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 3'000'000);
-    EXPECT_EQ(cut.GetOverallDuration(2'000'000), 0);
-    EXPECT_EQ(cut.Result2Source(1'000'000), 3'000'000);
-    EXPECT_EQ(cut.Source2Result(1'000'000'000'000), 999'998'000'000);
-}
-
-TEST(CutController, CutToDurationKeepsTheStoredOpenEndInTheNewDeletedInterval)
-{
-    SettingsFilterCutController cut;
-    cut.AddInterval(2'000'000, OPEN, 0, false);
-    cut.CutToDuration(1'000'000, 5'000'000);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 2'000'000, 0, true},
-                                             {2'000'000, 3'000'000, 2'000'000, false},
-                                             {3'000'000, OPEN, 2'000'000, true}}));
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 1'000'000);
-}
-
-TEST(CutController, CutToDurationAtOrAboveTheOverallDurationChangesNothingButTheIndex)
-{
-    auto cut = ThreeKept<CutControllerAccess>();
-    EXPECT_EQ(cut.GetIntervalIndex(5'500'000), 5);
-    cut.CutToDuration(3'000'000, 10'000'000);
-    EXPECT_EQ(cut.GetIntervals(), THREE_KEPT);
-    EXPECT_EQ(cut.RememberedIndex(), -1);
-    EXPECT_EQ(cut.GetIntervalIndex(5'500'000), 5);
-    cut.CutToDuration(4'000'000, 10'000'000);
-    EXPECT_EQ(cut.GetIntervals(), THREE_KEPT);
-    EXPECT_EQ(cut.RememberedIndex(), -1);
-}
-
-TEST(CutController, CutToDurationTrimsInsideTheLastKeptStretch)
-{
-    auto cut = ThreeKept();
-    cut.CutToDuration(2'500'000, 10'000'000);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 2'000'000, 1'000'000, false},
-                                             {2'000'000, 3'000'000, 1'000'000, true},
-                                             {3'000'000, 4'000'000, 2'000'000, false},
-                                             {4'000'000, 5'000'000, 2'000'000, true},
-                                             {5'000'000, 5'500'000, 3'000'000, false},
-                                             {5'500'000, OPEN, 3'000'000, true}}));
-    EXPECT_EQ(cut.GetOverallDuration(10'000'000), 2'500'000);
-}
-
-TEST(CutController, CutToDurationRemovesAStretchAsLongAsTheExcessWholeAndKeepsItsPredecessors)
-{
-    auto cut = ThreeKept();
-    cut.CutToDuration(2'000'000, 10'000'000);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 2'000'000, 1'000'000, false},
-                                             {2'000'000, 3'000'000, 1'000'000, true},
-                                             {3'000'000, 4'000'000, 2'000'000, false},
-                                             {4'000'000, OPEN, 2'000'000, true}}));
-    EXPECT_EQ(cut.GetOverallDuration(10'000'000), 2'000'000);
-}
-
-TEST(CutController, CutToDurationWalksBackOverSeveralKeptStretches)
-{
-    auto cut = ThreeKept();
-    cut.CutToDuration(500'000, 10'000'000);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 1'500'000, 1'000'000, false},
-                                             {1'500'000, OPEN, 1'000'000, true}}));
-    EXPECT_EQ(cut.GetOverallDuration(10'000'000), 500'000);
-}
-
-TEST(CutController, CutToDurationCountsARemovedOpenEndedStretchUpToTheSourceDuration)
-{
-    // The open-ended stretch 4 s to the end counts 1 s of a 5 s source; after removing it
-    // the walk goes on with the remaining excess of 0.5 s (Part 2.2).
-    SettingsFilterCutController cut;
-    cut.AddInterval(1'000'000, 2'000'000, 0, false);
-    cut.AddInterval(4'000'000, OPEN, 0, false);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 2'000'000, 1'000'000, false},
-                                             {2'000'000, 4'000'000, 1'000'000, true},
-                                             {4'000'000, OPEN, 3'000'000, false}}));
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 2'000'000);
-    cut.CutToDuration(500'000, 5'000'000);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, 1'000'000, 0, true},
-                                             {1'000'000, 1'500'000, 1'000'000, false},
-                                             {1'500'000, OPEN, 1'000'000, true}}));
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 500'000);
-}
-
-TEST(CutController, CutToDurationZeroDeletesEverything)
-{
-    auto cut = OneKept();
-    cut.CutToDuration(0, 5'000'000);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, OPEN, 0, true}}));
-    EXPECT_FALSE(cut.IsEnabled());
-    // A lone deleted interval counts as no cut list: the source duration again.
-    EXPECT_EQ(cut.GetOverallDuration(5'000'000), 5'000'000);
-}
-
-TEST(CutController, CutToDurationStopsWhenNoKeptStretchIsLeft)
-{
-    // Left open by Part 2.2; ours stops the walk when the local deque is empty.
-    SettingsFilterCutController onDefault;
-    onDefault.CutToDuration(1'000'000, 5'000'000);
-    EXPECT_EQ(onDefault.GetIntervals(), (Intervals{{0, OPEN, 0, true}})); // rebuilt by step 3
-
-    auto negativeTarget = OneKept();
-    negativeTarget.CutToDuration(-1, 5'000'000);
-    EXPECT_EQ(negativeTarget.GetIntervals(), (Intervals{{0, OPEN, 0, true}}));
-}
-
-// --- Reset, comparison, copies and the base operations --------------------------------
-
-TEST(CutController, ResetReturnsToTheDefaultState)
-{
-    auto cut = ThreeKept<CutControllerAccess>();
-    cut.GetIntervalIndex(3'500'000);
-    EXPECT_EQ(cut.RememberedIndex(), 3);
+    CutControllerAccess cut = Build(THREE_KEPT);
+    (void)cut.GetIntervalIndex(35);
+    const std::unique_ptr<Settings> clone = cut.Clone();
+    CutControllerAccess copy;
+    static_cast<SettingsFilterCutController&>(copy) = dynamic_cast<const SettingsFilterCutController&>(*clone);
+    EXPECT_EQ(copy.GetIntervals(), THREE);
+    EXPECT_EQ(copy.RememberedIndex(), 3);
     cut.Reset();
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, OPEN, NO_TIME, true}}));
+    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, O, NO, D}}));
     EXPECT_EQ(cut.RememberedIndex(), -1);
     EXPECT_TRUE(cut == SettingsFilterCutController());
-    EXPECT_FALSE(cut.IsEnabled());
-}
-
-TEST(CutController, EqualityComparesAllFourFieldsOfEachIntervalAndIgnoresTheIndex)
-{
-    const auto a = OneKept<CutControllerAccess>();
-    const auto b = OneKept<CutControllerAccess>();
-    EXPECT_EQ(a.GetIntervalIndex(1'500'000), 1);
-    EXPECT_NE(a.RememberedIndex(), b.RememberedIndex());
-    EXPECT_TRUE(a == b);
-    EXPECT_TRUE(a.IsEqualTo(b));
-    EXPECT_FALSE(a == ThreeKept());
-    EXPECT_FALSE(a.IsEqualTo(ThreeKept()));
-
-    const Intervals base{{0, 10, 5, true}, {10, 20, 15, false}};
-    CutControllerAccess left;
-    left.SetRawIntervals(base);
-    for (int field = 0; field < 4; ++field) {
-        Intervals changed = base;
-        switch (field) {
-        case 0:
-            changed[1].begin = 11;
-            break;
-        case 1:
-            changed[1].end = 21;
-            break;
-        case 2:
-            changed[1].deletedBefore = 16;
-            break;
-        default:
-            changed[1].deleted = true;
-            break;
-        }
-        CutControllerAccess right;
-        right.SetRawIntervals(changed);
-        EXPECT_FALSE(left == right) << field;
-        EXPECT_FALSE(left.IsEqualTo(right)) << field;
-    }
-    CutControllerAccess same;
-    same.SetRawIntervals(base);
-    EXPECT_TRUE(left == same);
-    CutControllerAccess shorter;
-    shorter.SetRawIntervals({base[0]});
-    EXPECT_FALSE(left == shorter);
-}
-
-TEST(CutController, IsEqualToWithAForeignTypeThrowsBadCast)
-{
-    const SettingsFilterCutController cut;
-    const SettingsFilterSpeedUp speedUp;
-    EXPECT_THROW(cut.IsEqualTo(speedUp), std::bad_cast);
-    EXPECT_THROW(speedUp.IsEqualTo(cut), std::bad_cast);
-}
-
-TEST(CutController, CloneCopiesTheIntervalsAndTheIndex)
-{
-    auto cut = ThreeKept<CutControllerAccess>();
-    cut.GetIntervalIndex(3'500'000);
-    const std::unique_ptr<Settings> clone = cut.Clone();
-    EXPECT_EQ(clone->GetClassId(), SettingsFilterCutController::CLASS_ID);
-    const Settings& cloned = *clone;
-    EXPECT_EQ(typeid(cloned), typeid(SettingsFilterCutController));
-    const auto& copy = dynamic_cast<const SettingsFilterCutController&>(*clone);
-    EXPECT_EQ(copy.GetIntervals(), THREE_KEPT);
-    EXPECT_TRUE(clone->IsEqualTo(cut));
-    CutControllerAccess reader;
-    static_cast<SettingsFilterCutController&>(reader) = copy;
-    EXPECT_EQ(reader.RememberedIndex(), 3);
-
-    cut.Reset();
-    EXPECT_EQ(copy.GetIntervals(), THREE_KEPT);
-}
-
-TEST(CutController, DeserializeIsTheBaseOneAndThrows)
-{
-    SettingsFilterCutController cut;
-    const std::string text = "Not implemented fill from string for settings CLASS_ID = $$FILTER_CUT_CONTROLLER$$";
-    EXPECT_EQ(FormADescription<SettingsException>([&] { cut.Deserialize(""); }), text);
-    EXPECT_EQ(FormADescription<SettingsException>([&] { cut.Deserialize("begin=1"); }), text);
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, OPEN, NO_TIME, true}}));
-}
-
-TEST(CutController, IsEmptyIsTheBaseOneAndAlwaysFalse)
-{
-    EXPECT_FALSE(SettingsFilterCutController().IsEmpty());
-    EXPECT_FALSE(OneKept().IsEmpty());
-    CutControllerAccess empty;
-    empty.SetRawIntervals({});
-    EXPECT_FALSE(empty.IsEmpty());
-}
-
-TEST(CutController, CatalogueListsTheIntervalsAsAJsonList)
-{
-    const auto* entry = Zorvan::SettingsCatalog::Find("$$FILTER_CUT_CONTROLLER$$");
-    ASSERT_NE(entry, nullptr);
-    EXPECT_EQ(entry->Own(), "E");
-    EXPECT_EQ(entry->FieldsToJson(SettingsFilterCutController()).dump(),
-              R"({"intervals":[{"begin":0,"deleted":true,"deletedBefore":-9223372036854775808,"end":2592000000000}]})");
-    EXPECT_EQ(entry->FieldsToJson(OneKept()).dump(),
-              R"({"intervals":[{"begin":0,"deleted":true,"deletedBefore":0,"end":1000000},)"
-              R"({"begin":1000000,"deleted":false,"deletedBefore":1000000,"end":2000000},)"
-              R"({"begin":2000000,"deleted":true,"deletedBefore":1000000,"end":2592000000000}]})");
 }
