@@ -60,5 +60,6 @@ void AddFieldsVignette(FieldMap& fields);
 void AddFieldsHalfTonePopArt(FieldMap& fields);
 void AddFieldsCameraShakeGlitchTiltShift(FieldMap& fields);
 void AddFieldsStreamPipeline(FieldMap& fields);
+void AddFieldsAudioEqualizer(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -308,6 +308,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsHalfTonePopArt(fields);
     CatalogDetail::AddFieldsCameraShakeGlitchTiltShift(fields);
     CatalogDetail::AddFieldsStreamPipeline(fields);
+    CatalogDetail::AddFieldsAudioEqualizer(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
