@@ -25,10 +25,10 @@ namespace {
 // record. Each family removes its classes when it lands; the list shrinks to empty.
 // clang-format off
 const std::set<std::string> kNotLandedYet{
-    "SettingsAudioDistortion", "SettingsAudioEqualizer", "SettingsAudioNoiseSuppress", "SettingsAudioPitch",
-    "SettingsAudioRadio", "SettingsAudioRobot", "SettingsAudioSpeechDenoiser", "SettingsEffect360Cylindrical",
+    "SettingsAudioNoiseSuppress", "SettingsAudioPitch",
+    "SettingsAudioRobot", "SettingsAudioSpeechDenoiser", "SettingsEffect360Cylindrical",
     "SettingsEffectAddNoize", "SettingsEffectAim", "SettingsEffectAlphaChannelModifier",
-    "SettingsEffectAudioStereo2DualMono", "SettingsEffectBorder", "SettingsEffectChannelMixer",
+    "SettingsEffectBorder", "SettingsEffectChannelMixer",
     "SettingsEffectChromakey", "SettingsEffectColorBlender", "SettingsEffectColorBrush",
     "SettingsEffectColorChannelMixer", "SettingsEffectColorFilter", "SettingsEffectColorMixBurn",
     "SettingsEffectColorMixExchange", "SettingsEffectColorSelect", "SettingsEffectCrop",
