@@ -11,6 +11,10 @@ public:
 
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
+
+    // sin(sample * 3.14 * 0.0009765625) in double: nearly one period per 2048 samples, with 3.14
+    // in place of pi, so sample 1024 gives sin(3.14), not 0.
+    static double Sinusoid(int sample);
 };
 
 } // namespace Zorvan::Proc
