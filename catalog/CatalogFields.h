@@ -61,5 +61,6 @@ void AddFieldsHalfTonePopArt(FieldMap& fields);
 void AddFieldsCameraShakeGlitchTiltShift(FieldMap& fields);
 void AddFieldsStreamPipeline(FieldMap& fields);
 void AddFieldsAudioEqualizer(FieldMap& fields);
+void AddFieldsAudioVoice(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -309,6 +309,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsCameraShakeGlitchTiltShift(fields);
     CatalogDetail::AddFieldsStreamPipeline(fields);
     CatalogDetail::AddFieldsAudioEqualizer(fields);
+    CatalogDetail::AddFieldsAudioVoice(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
