@@ -1,10 +1,8 @@
-// Expected tables, factors and shifts were worked out with a python3 script from the formulas
-// (IEEE doubles, each fused step computed exactly with fractions and rounded once), not by
-// running this code.
+// Expected tables, factors and shifts were worked out with python3 from the formulas (IEEE doubles,
+// each fused step computed exactly with fractions and rounded once), not by running this code.
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <initializer_list>
 #include <limits>
 #include <map>
 #include <numeric>
@@ -13,7 +11,6 @@
 #include <string>
 #include <tuple>
 #include <typeinfo>
-#include <utility>
 #include <vector>
 
 #include "Proc/Settings/SettingsEffectAutoContrast.h"
@@ -34,38 +31,28 @@ using ContrastTable = Magic::ContrastTable;
 // Overflows a float but not a double.
 const std::string kHuge = "1" + std::string(50, '0');
 
-// "" when f returns, else the exact class of the conversion failure and its text.
-template <class F>
-std::string Failure(F&& f)
-{
-    try {
-        f();
-    } catch (const std::logic_error& e) {
-        return (typeid(e) == typeid(std::invalid_argument) ? "invalid_argument: "
-                : typeid(e) == typeid(std::out_of_range)   ? "out_of_range: "
-                                                           : "other: ") +
-               std::string(e.what());
-    }
-    return "";
-}
+// The exact classes of the conversion failures as ZorvanTest::ThrownType names them.
+const char* const kNone = "nothing";
+const char* const kInvalid = typeid(std::invalid_argument).name();
+const char* const kOutOfRange = typeid(std::out_of_range).name();
 
 // A record from "field=value" pairs separated by ':', each through its setter in turn, for the
 // class reads no option string.
 Magic Make(const std::string& fields)
 {
     static const std::map<std::string, void (*)(Magic&, double)> setters{
-        {"contrastForce", [](Magic& r, double v) { r.SetContrastForce(static_cast<std::uint32_t>(v)); }},
-        {"brightness", [](Magic& r, double v) { r.SetBrightness(static_cast<int>(v)); }},
-        {"contrast", [](Magic& r, double v) { r.SetContrast(static_cast<int>(v)); }},
-        {"furtherInt1", [](Magic& r, double v) { r.SetFurtherInt1(static_cast<int>(v)); }},
-        {"furtherInt2", [](Magic& r, double v) { r.SetFurtherInt2(static_cast<int>(v)); }},
+        {"contrastForce", [](Magic& r, double v) { r.SetContrastForce(v); }},
+        {"brightness", [](Magic& r, double v) { r.SetBrightness(v); }},
+        {"contrast", [](Magic& r, double v) { r.SetContrast(v); }},
+        {"furtherInt1", [](Magic& r, double v) { r.SetFurtherInt1(v); }},
+        {"furtherInt2", [](Magic& r, double v) { r.SetFurtherInt2(v); }},
         {"gamma", [](Magic& r, double v) { r.SetGamma(v); }},
-        {"whiteBalanceForce", [](Magic& r, double v) { r.SetWhiteBalanceForce(static_cast<std::uint32_t>(v)); }},
-        {"temperature", [](Magic& r, double v) { r.SetTemperature(static_cast<int>(v)); }},
-        {"tint", [](Magic& r, double v) { r.SetTint(static_cast<int>(v)); }},
-        {"saturationForce", [](Magic& r, double v) { r.SetSaturationForce(static_cast<std::uint32_t>(v)); }},
+        {"whiteBalanceForce", [](Magic& r, double v) { r.SetWhiteBalanceForce(v); }},
+        {"temperature", [](Magic& r, double v) { r.SetTemperature(v); }},
+        {"tint", [](Magic& r, double v) { r.SetTint(v); }},
+        {"saturationForce", [](Magic& r, double v) { r.SetSaturationForce(v); }},
         {"saturation", [](Magic& r, double v) { r.SetSaturation(v); }},
-        {"lastInt", [](Magic& r, double v) { r.SetLastInt(static_cast<int>(v)); }},
+        {"lastInt", [](Magic& r, double v) { r.SetLastInt(v); }},
     };
     Magic record;
     std::istringstream pairs(fields);
@@ -88,10 +75,9 @@ Histogram Hist(std::initializer_list<std::pair<int, std::uint32_t>> bins)
 ContrastTable RunContrast(std::uint32_t force, const Histogram& histogram)
 {
     ContrastTable table;
-    table.fill(0xAA); // an entry the callee leaves unwritten shows
+    table.fill(0xAA);
     const auto function = Make("contrastForce=" + std::to_string(force)).GetCustomContrast();
-    EXPECT_NE(function, nullptr);
-    if (function != nullptr) {
+    if (function != nullptr) { // else the unwritten entries show
         function(histogram, table);
     }
     return table;
@@ -121,27 +107,6 @@ constexpr ContrastTable kSingleBin100{
     253, 254, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, 255, //
 };
 
-// Double force of kTwoPeaksWithTails: the first pass moves its edges to 21 and 203, and the
-// second pass (offset 0.8) alone makes the table.
-constexpr ContrastTable kDoubleTwoPeaks{
-    1,   2,   3,   4,   5,   6,   7,   8,   9,   10,  11,  12,  13,  14,  15,  16,  //
-    17,  18,  19,  20,  21,  22,  23,  24,  25,  26,  27,  28,  29,  30,  31,  32,  //
-    33,  34,  35,  36,  37,  38,  39,  40,  41,  42,  43,  44,  45,  46,  47,  48,  //
-    49,  50,  51,  52,  53,  54,  55,  56,  57,  58,  59,  60,  61,  62,  63,  64,  //
-    65,  66,  67,  68,  69,  70,  71,  72,  73,  74,  75,  76,  77,  78,  79,  80,  //
-    81,  82,  83,  85,  86,  87,  88,  89,  90,  91,  92,  93,  94,  95,  96,  97,  //
-    98,  99,  100, 101, 102, 103, 104, 105, 106, 107, 108, 109, 110, 111, 112, 113, //
-    114, 115, 116, 117, 118, 119, 120, 121, 122, 123, 124, 125, 126, 127, 128, 129, //
-    130, 131, 132, 133, 134, 135, 136, 137, 138, 139, 140, 141, 142, 143, 144, 145, //
-    146, 147, 148, 149, 150, 151, 152, 153, 154, 155, 156, 157, 158, 159, 160, 161, //
-    162, 163, 164, 165, 166, 167, 168, 169, 170, 171, 172, 173, 174, 175, 176, 177, //
-    178, 179, 180, 181, 182, 183, 184, 185, 186, 187, 188, 189, 190, 191, 192, 193, //
-    194, 195, 196, 197, 198, 199, 200, 201, 202, 203, 205, 206, 207, 208, 209, 210, //
-    211, 212, 213, 214, 215, 216, 217, 218, 219, 220, 221, 222, 223, 224, 225, 226, //
-    227, 228, 229, 230, 231, 232, 233, 234, 235, 236, 237, 238, 239, 240, 241, 242, //
-    243, 244, 245, 246, 247, 248, 249, 250, 251, 252, 253, 254, 255, 255, 255, 255, //
-};
-
 } // namespace
 
 TEST(MagicEnhance, IsConfiguredBySettersAlone)
@@ -163,21 +128,16 @@ TEST(MagicEnhance, ContrastTables)
     ContrastTable identity{};
     std::iota(identity.begin(), identity.end(), std::uint8_t{0});
     // A table depends on the two edges alone, so a histogram of two single counts can name them.
-    // clang-format off
     const std::vector<std::tuple<const char*, std::uint32_t, Histogram, ContrastTable>> tables{
         {"bin 100 alone: gain 1.05, offset 1.4", 1, Hist({{100, 1000}}), kSingleBin100},
         {"16 to 235 spans 219 levels: gain 1, offset 0.15", 1, Hist({{16, 5}, {235, 7}}), identity},
-        // A composition of the passes would map level 0 through both tables to 2.
-        {"the second pass replaces the first", 2, kTwoPeaksWithTails, kDoubleTwoPeaks},
         {"first pass edges 21, 203", 2, kTwoPeaksWithTails, RunContrast(1, Hist({{21, 1}, {203, 1}}))},
         {"a sum equal to T goes on", 1, kTwoPeaksWithTails, RunContrast(1, Hist({{20, 1}, {200, 1}}))},
         // 49151 >> 14 = 2, so the 3 of bin 10 are above T.
         {"T is total >> 14", 1, Hist({{10, 3}, {128, 49148}}), RunContrast(1, Hist({{10, 1}, {128, 1}}))},
         // 2^32 + 4 wraps to 4: T 0, so the 1 of bin 30 is the low edge (unwrapped: bin 100).
         {"the total wraps at 32 bits", 1, Hist({{30, 1}, {100, 0x80000000U}, {200, 0x80000003U}}),
-         RunContrast(1, Hist({{30, 1}, {200, 1}}))},
-        {"double of 100 is single of 106", 2, Hist({{100, 1000}}), RunContrast(1, Hist({{106, 1000}}))}};
-    // clang-format on
+         RunContrast(1, Hist({{30, 1}, {200, 1}}))}};
     for (const auto& [what, force, histogram, expected] : tables) {
         EXPECT_EQ(RunContrast(force, histogram), expected) << what;
     }
@@ -190,7 +150,9 @@ TEST(MagicEnhance, ContrastTables)
         {"value step fused", 1, Hist({{0, 1}, {238, 1}}), {{0, 0}, {218, 218}, {219, 219}, {220, 219}, {255, 254}}},
         // Fused gain 0x1.0bbf795644bbfp+0; unfused 0x1.0bbf795644bc0p+0 makes level 146 159.
         {"gain step fused", 1, Hist({{3, 1}, {21, 1}}), {{0, 6}, {145, 157}, {146, 158}, {147, 160}}},
-        {"double force of bin 100", 2, Hist({{100, 1000}}), {{0, 1}, {100, 106}, {106, 112}}}};
+        // First pass edges 21 and 203; the second pass alone makes the table (a composition maps 0 to 2).
+        {"second pass replaces the first", 2, kTwoPeaksWithTails,
+         {{0, 1}, {82, 83}, {83, 85}, {201, 203}, {202, 205}, {251, 254}, {252, 255}}}};
     // clang-format on
     for (const auto& [what, force, histogram, levels] : entries) {
         const ContrastTable table = RunContrast(force, histogram);
@@ -206,11 +168,9 @@ TEST(MagicEnhance, SaturationFactor)
     // Force, histograms and shifts: the distance is the larger of the shifted edges' from 128.
     // clang-format off
     const std::vector<std::tuple<std::uint32_t, Histogram, Histogram, int, int, double>> cases{
-        {1, mid, mid, 47, 0, 1.1}, {1, mid, mid, 48, 0, 1.1}, {1, mid, mid, 49, 0, 1.09375}, {1, mid, mid, 64, 0, 1.0},
-        {1, mid, mid, 79, 0, 0.9062500000000001}, {1, mid, mid, 80, 0, 0.9}, {1, mid, mid, -64, 0, 1.0},
-        {1, mid, mid, 0, -79, 0.9062500000000001}, {1, mid, mid, 50, -64, 1.0},
-        {2, mid, mid, 47, 0, 1.2100000000000002}, {2, mid, mid, 79, 0, 0.8212890625000002}, {2, mid, mid, 80, 0, 0.81},
-        {1, Hist({{100, 5}}), mid, 28, 0, 1.1},          // an edge of 100 shifted by 28 lies at 128
+        {1, mid, mid, 47, 0, 1.1}, {1, mid, mid, 49, 0, 1.09375}, {1, mid, mid, 79, 0, 0.9062500000000001},
+        {1, mid, mid, 80, 0, 0.9}, {1, mid, mid, 0, -79, 0.9062500000000001}, {1, mid, mid, 50, -64, 1.0},
+        {2, mid, mid, 47, 0, 1.2100000000000002}, // squared, not a rounded 1.21
         {1, Hist({{70, 3}, {190, 4}}), mid, 5, 0, 0.9812500000000001}, // edges 75 and 195: distance 67
         {2, Hist({{70, 3}, {190, 4}}), mid, 5, 0, 0.9628515625000001},
         // T 4 comes from the first; under its own T of 0 the second's low edge would be 10.
@@ -218,40 +178,33 @@ TEST(MagicEnhance, SaturationFactor)
         {1, Hist({{20, 4}, {128, 65532}, {250, 4}}), mid, 0, 0, 1.1}, // tails of T are skipped
         {1, Hist({{20, 5}, {128, 65531}, {250, 4}}), mid, 0, 0, 0.9}};
     // clang-format on
-    for (std::size_t i = 0; i < cases.size(); ++i) {
-        const auto& [force, first, second, firstShift, secondShift, expected] = cases[i];
+    for (const auto& [force, first, second, firstShift, secondShift, expected] : cases) {
         const auto function = Make("saturationForce=" + std::to_string(force)).GetCustomSaturation();
         ASSERT_NE(function, nullptr);
-        EXPECT_EQ(function(first, second, firstShift, secondShift), expected) << "case " << i;
+        EXPECT_EQ(function(first, second, firstShift, secondShift), expected) << firstShift << ", " << secondShift;
     }
 }
 
 TEST(MagicEnhance, WhiteBalanceShifts)
 {
-    // clang-format off
     const std::vector<std::tuple<Histogram, Histogram, std::pair<int, int>>> cases{
-        {Hist({{128, 9}}), Hist({{128, 9}}), {0, 0}},
         // Spread 40, factor 184/256: 28 * f + 0.5 = 20.625 and -12 * f + 0.5 = -8.125, toward zero.
         {Hist({{100, 9}}), Hist({{140, 9}}), {20, -8}},
-        // Both means divided by the first total: 2000 / 10 = 200; factor 0.875 gives -62.5.
-        {Hist({{100, 10}}), Hist({{100, 20}}), {25, -62}},
+        {Hist({{100, 10}}), Hist({{100, 20}}), {25, -62}}, // means over the first total: 2000 / 10 = 200
         // T 2, low edge 5; mean2 5600000 / 40003 = 139; spread 87, widest 95, factor 129/256.
         {Hist({{5, 3}, {100, 40000}}), Hist({{140, 40000}}), {15, -5}},
         // T 2: the 2 of bin 5 are skipped; means 99 and 139, factor 0.71875.
         {Hist({{5, 2}, {100, 40000}}), Hist({{140, 40000}}), {21, -7}},
-        // Means 90 and 75; spread 20, widest 120, factor 104/256.
-        {Hist({{60, 30}, {180, 10}}), Hist({{90, 5}, {170, 15}}), {15, 22}},
-        {Hist({{0, 1}, {255, 9}}), Hist({{0, 1}, {255, 9}}), {0, 0}}, // limit 255: factor 0
+        {Hist({{60, 30}, {180, 10}}), Hist({{90, 5}, {170, 15}}), {15, 22}}, // widest 120: factor 104/256
+        {Hist({{0, 1}, {255, 9}}), Hist({{0, 1}, {255, 9}}), {0, 0}},        // limit 255: factor 0
         // 200 * 2^25 wraps to 2415919104: mean 72, not 200; factor 0.875 gives 49.5.
         {Hist({{200, 1U << 25U}}), Hist({{200, 1U << 25U}}), {49, 49}}};
-    // clang-format on
     const auto function = Make("whiteBalanceForce=1").GetCustomWhiteBalance();
     ASSERT_NE(function, nullptr);
-    for (std::size_t i = 0; i < cases.size(); ++i) {
-        const auto& [first, second, expected] = cases[i];
+    for (const auto& [first, second, expected] : cases) {
         std::pair<int, int> shifts{12345, 12345};
         function(first, second, shifts.first, shifts.second);
-        EXPECT_EQ(shifts, expected) << "case " << i;
+        EXPECT_EQ(shifts, expected);
     }
 }
 
@@ -270,7 +223,6 @@ TEST(MagicEnhance, ComparisonSkipsTheValuesOfAutomaticCorrections)
         {"whiteBalanceForce=3", "whiteBalanceForce=3:temperature=5000:tint=40", true},
         {"whiteBalanceForce=3", "whiteBalanceForce=3:brightness=1", false},
         {"", "saturation=1.0005", true}, {"saturation=0", "saturation=0.001", true},
-        {"saturation=0", "saturation=-0.001", true},
         {"saturation=0", "saturation=0.0010000000000000002", false}, // one ulp beyond the tolerance
         {"saturation=nan", "saturation=nan", false}, {"saturationForce=1", "saturationForce=1:saturation=nan", true},
         {"contrastForce=1:whiteBalanceForce=1:saturationForce=1",
@@ -279,38 +231,27 @@ TEST(MagicEnhance, ComparisonSkipsTheValuesOfAutomaticCorrections)
     for (const auto& [a, b, equal] : cases) {
         SCOPED_TRACE(std::string(a) + " against " + b);
         EXPECT_EQ(Make(a) == Make(b), equal);
-        EXPECT_EQ(Make(b) == Make(a), equal);
-        EXPECT_EQ(Make(a).IsEqualTo(Make(b)), equal);
+        EXPECT_EQ(Make(b).IsEqualTo(Make(a)), equal);
     }
 }
 
-TEST(AutoEnhancement, CatalogueAndCloneShowEveryField)
+TEST(AutoEnhancement, CloneKeepsEveryFieldAndForeignComparisonThrows)
 {
-    const auto check = [](const Settings& record, const std::string& json) {
-        const auto* entry = Zorvan::SettingsCatalog::Find(record.GetClassId());
-        const auto clone = record.Clone();
-        EXPECT_EQ(entry->FieldsToJson(record).dump(), json);
-        EXPECT_EQ(entry->FieldsToJson(*clone).dump(), json);
-        EXPECT_TRUE(clone->IsEqualTo(record));
-    };
     // The setters store plainly: nothing is clamped.
-    check(Make("contrastForce=2:brightness=-300:contrast=500:furtherInt1=3:furtherInt2=-4:gamma=-2.5:"
-               "whiteBalanceForce=5:temperature=100000:tint=-100000:saturationForce=1:saturation=40:lastInt=42"),
-          R"({"contrastForce":2,"brightness":-300,"contrast":500,"furtherInt1":3,"furtherInt2":-4,"gamma":-2.5,)"
-          R"("whiteBalanceForce":5,"temperature":100000,"tint":-100000,"saturationForce":1,"saturation":40.0,)"
-          R"("lastInt":42})");
-    check(Magic(),
-          R"({"contrastForce":0,"brightness":0,"contrast":0,"furtherInt1":0,"furtherInt2":0,"gamma":1.0,)"
-          R"("whiteBalanceForce":0,"temperature":0,"tint":0,"saturationForce":0,"saturation":1.0,"lastInt":0})");
-    const SettingsEffectAutoContrast contrast;
-    check(contrast, R"({"whiteSaturatedPixels":0.0,"blackSaturatedPixels":0.0,"alphaIsDisabled":false})");
-    const SettingsEffectMagicEnhance2 magic2;
-    check(magic2, R"({"whiteSaturatedPixels":0.0,"blackSaturatedPixels":0.0})");
+    const Magic magic = Make("contrastForce=2:brightness=-300:contrast=500:furtherInt1=3:furtherInt2=-4:gamma=-2.5:"
+                             "whiteBalanceForce=5:temperature=100000:tint=-100000:saturationForce=1:saturation=40:"
+                             "lastInt=42");
+    EXPECT_EQ(Zorvan::SettingsCatalog::Find(Magic::CLASS_ID)->FieldsToJson(*magic.Clone()).dump(),
+              R"({"contrastForce":2,"brightness":-300,"contrast":500,"furtherInt1":3,"furtherInt2":-4,"gamma":-2.5,)"
+              R"("whiteBalanceForce":5,"temperature":100000,"tint":-100000,"saturationForce":1,"saturation":40.0,)"
+              R"("lastInt":42})");
     SettingsEffectAutoWhiteBalance balance; // no getters: its colour and mode show through the comparison
     balance.Deserialize("r=1:g=2:b=3:m=4");
-    check(balance, "{}");
+    EXPECT_TRUE(balance.IsEqualTo(*balance.Clone()));
     EXPECT_FALSE(SettingsEffectAutoWhiteBalance().IsEqualTo(*balance.Clone()));
-    EXPECT_THROW((void)Magic().IsEqualTo(contrast), std::bad_cast);
+    const SettingsEffectAutoContrast contrast;
+    const SettingsEffectMagicEnhance2 magic2;
+    EXPECT_THROW((void)magic.IsEqualTo(contrast), std::bad_cast);
     EXPECT_THROW((void)contrast.IsEqualTo(magic2), std::bad_cast);
     EXPECT_THROW((void)magic2.IsEqualTo(contrast), std::bad_cast);
     EXPECT_THROW((void)balance.IsEqualTo(magic2), std::bad_cast);
@@ -323,26 +264,24 @@ class SaturatedPixels : public ::testing::Test {
 using SaturatedPixelRecords = ::testing::Types<SettingsEffectAutoContrast, SettingsEffectMagicEnhance2>;
 TYPED_TEST_SUITE(SaturatedPixels, SaturatedPixelRecords);
 
-TYPED_TEST(SaturatedPixels, DeserializeStoresFloatsPastTheClamp)
+TYPED_TEST(SaturatedPixels, DeserializeStoresFloatsPastTheClampAndComparesExactly)
 {
-    // Options, each case starting from b=7:w=8; the conversion failure; black and white after.
-    // clang-format off
+    TypeParam base;
+    base.Deserialize("b=7:w=8");
+    // Options, each case starting from b=7:w=8; the class thrown; black and white after.
     const std::vector<std::tuple<std::string, const char*, float, float>> cases{
-        {"b=1.5:w=2.25", "", 1.5F, 2.25F}, {"W=3:x=9", "", 7.0F, 3.0F}, {"w=25:b=-3", "", -3.0F, 25.0F},
-        {"w=0.1:b=1.2.3", "", 1.2F, 0.1F}, {"w=1,5", "", 7.0F, 1.0F}, {"b=2:b=3", "", 2.0F, 8.0F},
-        {"w=abc:b=+1", "", 7.0F, 8.0F}, // no option under the numeric value pattern
-        {"b=2:w=-", "invalid_argument: stof", 2.0F, 8.0F}, {"w=\"5\"", "invalid_argument: stof", 7.0F, 8.0F},
-        {"w=" + kHuge, "out_of_range: stof", 7.0F, 8.0F}};
-    // clang-format on
+        {"b=1.5:w=2.25", kNone, 1.5F, 2.25F},   {"w=25:b=-3", kNone, -3.0F, 25.0F},
+        {"w=8.000001", kNone, 7.0F, 8.000001F}, {"b=7.000001", kNone, 7.000001F, 8.0F},
+        {"b=2:w=-", kInvalid, 2.0F, 8.0F},      {"w=" + kHuge, kOutOfRange, 7.0F, 8.0F}};
     for (const auto& [options, failure, black, white] : cases) {
         SCOPED_TRACE(options);
-        TypeParam record;
-        record.Deserialize("b=7:w=8");
-        EXPECT_EQ(Failure([&] { record.Deserialize(options); }), failure);
+        TypeParam record = base;
+        EXPECT_EQ(ZorvanTest::ThrownType([&] { record.Deserialize(options); }), failure);
         const auto clone = record.Clone();
         const auto& copy = dynamic_cast<const TypeParam&>(*clone);
         EXPECT_EQ(copy.GetBlackSaturatedPixels(), black);
         EXPECT_EQ(copy.GetWhiteSaturatedPixels(), white);
+        EXPECT_EQ(clone->IsEqualTo(base), black == 7.0F && white == 8.0F);
         EXPECT_FALSE(record.IsEmpty());
     }
 }
@@ -351,8 +290,7 @@ TYPED_TEST(SaturatedPixels, SettersClampTo0Through20AndNaNTo0)
 {
     const float inf = std::numeric_limits<float>::infinity();
     const float nan = std::numeric_limits<float>::quiet_NaN();
-    const std::vector<std::pair<float, float>> cases{{25.0F, 20.0F}, {20.5F, 20.0F}, {20.0F, 20.0F},
-                                                     {7.5F, 7.5F},   {0.25F, 0.25F}, {-1.0F, 0.0F},
+    const std::vector<std::pair<float, float>> cases{{20.5F, 20.0F}, {20.0F, 20.0F}, {0.25F, 0.25F}, {-1.0F, 0.0F},
                                                      {inf, 20.0F},   {-inf, 0.0F},   {nan, 0.0F}};
     for (const auto& [given, stored] : cases) {
         TypeParam record;
@@ -361,16 +299,6 @@ TYPED_TEST(SaturatedPixels, SettersClampTo0Through20AndNaNTo0)
         record.SetBlackSaturatedPixels(given);
         EXPECT_EQ(record.GetWhiteSaturatedPixels(), stored) << given;
         EXPECT_EQ(record.GetBlackSaturatedPixels(), stored) << given;
-    }
-}
-
-TYPED_TEST(SaturatedPixels, ComparesBothFieldsExactly)
-{
-    for (const char* options : {"w=0.000001", "b=0.000001"}) {
-        TypeParam changed;
-        changed.Deserialize(options);
-        EXPECT_FALSE(TypeParam() == changed) << options;
-        EXPECT_FALSE(changed.IsEqualTo(TypeParam())) << options;
     }
 }
 
@@ -387,43 +315,35 @@ TEST(AutoContrast, AlphaKeyIsADoubleTrueWhenNotZeroAndOutsideTheComparison)
         EXPECT_TRUE(record == SettingsEffectAutoContrast()) << value;
     }
     SettingsEffectAutoContrast record; // "a" is read after "w"
-    EXPECT_EQ(Failure([&] { record.Deserialize("a=-:w=5"); }), "invalid_argument: stod");
+    EXPECT_EQ(ZorvanTest::ThrownType([&] { record.Deserialize("a=-:w=5"); }), kInvalid);
     EXPECT_EQ(record.GetWhiteSaturatedPixels(), 5.0F);
 }
 
 TEST(AutoWhiteBalance, ColourTakesTheLowBytesOfAllThreeKeysWithAlpha0)
 {
-    // Options applied in turn ('|' between calls) with the conversion failure, then options
-    // applied to a fresh record, and whether the two compare equal.
+    // Options applied to r=1:g=2:b=3 with the class thrown, then options applied to a fresh
+    // record, and whether the two compare equal.
+    const char* const start = "r=1:g=2:b=3";
     // clang-format off
-    const std::vector<std::tuple<std::string, const char*, const char*, bool>> cases{
-        {"r=1:g=2:b=3", "", "r=257:g=258:b=259", true}, {"r=1:g=2:b=3", "", "r=-255:g=-254:b=-253", true},
-        {"r=1:g=2:b=3", "", "r=1:g=2:b=4", false}, {"r=1:g=2:b=3", "", "r=2:g=1:b=3", false},
-        {"r=1:g=2:b=3", "", "r=1:g=3:b=2", false}, {"r=1:g=2:b=3", "", "r=3:g=2:b=1", false},
-        {"r=0:g=0:b=0", "", "", true}, // alpha 255 would differ from the default colour
-        {"r=256:g=512:b=768", "", "", true}, {"r=1:g=0:b=0", "", "", false}, {"r=1:g=2", "", "", true},
-        {"r=1:g=2:b=3|r=9:g=9:m=4", "", "r=1:g=2:b=3:m=4", true}, // "b" absent: "m" is still read
-        {"r=1:g=2:b=3|g=7:b=7|", "", "r=1:g=2:b=3", true},
-        {"m=2", "", "", false}, {"m=2", "", "m=2.9", true}, {"m=2", "", "m=-2", false},
-        {"r=1:g=2:b=3:m=-", "invalid_argument: stoi", "r=1:g=2:b=3", true}, // the colour comes first
-        {"r=-:g=5:b=5", "invalid_argument: stoi", "", true},
-        {"r=1:g=2:b=99999999999", "out_of_range: stoi", "", true},
-        {"m=\"1\"", "invalid_argument: stoi", "", true}};
+    const std::vector<std::tuple<const char*, const char*, const char*, bool>> cases{
+        {"r=257:g=258:b=-253", kNone, start, true},
+        {"", kNone, "r=2:g=2:b=3", false}, {"", kNone, "r=1:g=3:b=3", false}, {"", kNone, "r=1:g=2:b=4", false},
+        {"r=0:g=0:b=0", kNone, "", true}, // alpha 255 would differ from the default colour
+        {"r=9:g=9:m=4", kNone, "r=1:g=2:b=3:m=4", true}, // "b" absent: the colour stays, "m" is still read
+        {"m=2", kNone, start, false},
+        {"r=5:g=5:b=5:m=-", kInvalid, "r=5:g=5:b=5", true}, // the colour comes first
+        {"r=-:g=5:b=5", kInvalid, start, true},
+        {"r=5:g=5:b=99999999999", kOutOfRange, start, true}};
     // clang-format on
     for (const auto& [options, failure, other, equal] : cases) {
-        SCOPED_TRACE(options + " against " + other);
+        SCOPED_TRACE(std::string(options) + " against " + other);
         SettingsEffectAutoWhiteBalance a;
-        std::istringstream calls(options);
-        EXPECT_EQ(Failure([&] {
-                      for (std::string call; std::getline(calls, call, '|');) {
-                          a.Deserialize(call);
-                      }
-                  }),
-                  failure);
+        a.Deserialize(start);
+        EXPECT_EQ(ZorvanTest::ThrownType([&] { a.Deserialize(options); }), failure);
         SettingsEffectAutoWhiteBalance b;
         b.Deserialize(other);
         EXPECT_EQ(a == b, equal);
         EXPECT_EQ(b.IsEqualTo(a), equal);
-        EXPECT_FALSE(a.IsEmpty());
+        EXPECT_FALSE(b.IsEmpty());
     }
 }
