@@ -25,8 +25,8 @@ namespace {
 // record. Each family removes its classes when it lands; the list shrinks to empty.
 // clang-format off
 const std::set<std::string> kNotLandedYet{
-    "SettingsAudioNoiseSuppress", "SettingsAudioPitch",
-    "SettingsAudioRobot", "SettingsAudioSpeechDenoiser", "SettingsEffect360Cylindrical",
+   
+    "SettingsEffect360Cylindrical",
     "SettingsEffectAddNoize", "SettingsEffectAim", "SettingsEffectAlphaChannelModifier",
     "SettingsEffectBorder", "SettingsEffectChannelMixer",
     "SettingsEffectChromakey", "SettingsEffectColorBlender", "SettingsEffectColorBrush",
