@@ -62,5 +62,6 @@ void AddFieldsCameraShakeGlitchTiltShift(FieldMap& fields);
 void AddFieldsStreamPipeline(FieldMap& fields);
 void AddFieldsAudioEqualizer(FieldMap& fields);
 void AddFieldsAudioVoice(FieldMap& fields);
+void AddFieldsDenoise(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

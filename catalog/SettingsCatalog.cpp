@@ -310,6 +310,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsStreamPipeline(fields);
     CatalogDetail::AddFieldsAudioEqualizer(fields);
     CatalogDetail::AddFieldsAudioVoice(fields);
+    CatalogDetail::AddFieldsDenoise(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
