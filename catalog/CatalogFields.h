@@ -46,6 +46,7 @@ void AddFieldsCore(FieldMap& fields);
 void AddFieldsResizer(FieldMap& fields);
 void AddFieldsCutController(FieldMap& fields);
 void AddFieldsTimeFilters(FieldMap& fields);
+void AddFieldsSubtitles(FieldMap& fields);
 void AddFieldsSpeechToText(FieldMap& fields);
 void AddFieldsVideoTracking(FieldMap& fields);
 void AddFieldsAudioAnalyzers(FieldMap& fields);

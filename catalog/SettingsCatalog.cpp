@@ -294,6 +294,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsResizer(fields);
     CatalogDetail::AddFieldsCutController(fields);
     CatalogDetail::AddFieldsTimeFilters(fields);
+    CatalogDetail::AddFieldsSubtitles(fields);
     CatalogDetail::AddFieldsSpeechToText(fields);
     CatalogDetail::AddFieldsVideoTracking(fields);
     CatalogDetail::AddFieldsAudioAnalyzers(fields);

@@ -4,6 +4,7 @@
 #include "Proc/Settings/BaseSettingsISF.h"
 #include "Proc/Settings/CropInfo.h"
 #include "Proc/Settings/Export.h"
+#include "Proc/Settings/FrameGeometry.h"
 #include "Proc/Settings/IAnalyzerResult.h"
 #include "Proc/Settings/ImageHandler.h"
 #include "Proc/Settings/NeuralNetworkModelInfo.h"
