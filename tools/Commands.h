@@ -18,5 +18,7 @@ Subcommand AddResizeCommand(CLI::App& app);
 Subcommand AddCutCommand(CLI::App& app);
 // trace FILE.json (TraceCommand.cpp)
 Subcommand AddTraceCommand(CLI::App& app);
+// frame WxH[:NUM/DEN] --matrix m0,...,m8 [--even] (FrameCommand.cpp)
+Subcommand AddFrameCommand(CLI::App& app);
 
 } // namespace ZorvanTool

@@ -5,6 +5,7 @@
 //   resize OPTIONS --input WxH[:NUM/DEN]       the resizer's geometry for one input frame
 //   cut --interval B,E,deleted|kept ... [--source-duration D] [--map T ...]   a cut list
 //   trace FILE.json          a speech-to-text result read from JSON, printed by Result::Trace
+//   frame WxH[:NUM/DEN] --matrix m0,...,m8 [--even]   a frame's size under a 2D transform
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -174,7 +175,8 @@ int main(int argc, char** argv)
                "  zorvan-settings docs --output docs/catalogue.md\n"
                "  zorvan-settings resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080\n"
                "  zorvan-settings cut --interval 1000000,2000000,kept --source-duration 5000000 --map 1500000\n"
-               "  zorvan-settings trace result.json");
+               "  zorvan-settings trace result.json\n"
+               "  zorvan-settings frame 1920x1080 --matrix 2,0,0,0,1,0,0,0,1 --even");
 
     bool listJson = false;
     CLI::App* list = app.add_subcommand(
@@ -199,6 +201,7 @@ int main(int argc, char** argv)
     const ZorvanTool::Subcommand resize = ZorvanTool::AddResizeCommand(app);
     const ZorvanTool::Subcommand cut = ZorvanTool::AddCutCommand(app);
     const ZorvanTool::Subcommand trace = ZorvanTool::AddTraceCommand(app);
+    const ZorvanTool::Subcommand frame = ZorvanTool::AddFrameCommand(app);
 
     CLI11_PARSE(app, argc, argv);
 
@@ -209,7 +212,7 @@ int main(int argc, char** argv)
         if (*show) {
             return Show(showId, showOptions);
         }
-        for (const auto* command : {&resize, &cut, &trace}) {
+        for (const auto* command : {&resize, &cut, &trace, &frame}) {
             if (command->command->parsed()) {
                 return command->run();
             }
