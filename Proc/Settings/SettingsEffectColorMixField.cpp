@@ -16,4 +16,24 @@ std::unique_ptr<Settings> SettingsEffectColorMixField::Clone() const
     return std::make_unique<SettingsEffectColorMixField>(*this);
 }
 
+void SettingsEffectColorMixField::SetThreshold(double value)
+{
+    threshold = value;
+}
+
+void SettingsEffectColorMixField::SetContrast(double value)
+{
+    contrast = value;
+}
+
+double SettingsEffectColorMixField::GetThreshold() const
+{
+    return threshold;
+}
+
+double SettingsEffectColorMixField::GetContrast() const
+{
+    return contrast;
+}
+
 } // namespace Zorvan::Proc
