@@ -64,5 +64,6 @@ void AddFieldsStreamPipeline(FieldMap& fields);
 void AddFieldsAudioEqualizer(FieldMap& fields);
 void AddFieldsAudioVoice(FieldMap& fields);
 void AddFieldsDenoise(FieldMap& fields);
+void AddFieldsColorBlending(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -312,6 +312,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsAudioEqualizer(fields);
     CatalogDetail::AddFieldsAudioVoice(fields);
     CatalogDetail::AddFieldsDenoise(fields);
+    CatalogDetail::AddFieldsColorBlending(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
