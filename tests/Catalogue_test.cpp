@@ -27,19 +27,19 @@ namespace {
 const std::set<std::string> kNotLandedYet{
    
     "SettingsEffect360Cylindrical",
-    "SettingsEffectAddNoize", "SettingsEffectAim", "SettingsEffectAlphaChannelModifier",
+    "SettingsEffectAim", "SettingsEffectAlphaChannelModifier",
     "SettingsEffectBorder", "SettingsEffectChannelMixer",
-    "SettingsEffectChromakey", "SettingsEffectColorBlender", "SettingsEffectColorBrush",
-    "SettingsEffectColorChannelMixer", "SettingsEffectColorFilter", "SettingsEffectColorMixBurn",
-    "SettingsEffectColorMixExchange", "SettingsEffectColorSelect", "SettingsEffectCrop",
-    "SettingsEffectDenoiseChromaLuma", "SettingsEffectDenoiseDCT", "SettingsEffectDenoiseOvercompleteWavelet",
+   
+    "SettingsEffectColorChannelMixer",
+    "SettingsEffectCrop",
+   
     "SettingsEffectDisplacementMap", "SettingsEffectFillBlurredBackground", "SettingsEffectFlip",
     "SettingsEffectFlyingObjects", "SettingsEffectGIMPColorCorrection", "SettingsEffectGIMPColorTemperature",
     "SettingsEffectGIMPColorize", "SettingsEffectGIMPHueSaturation", "SettingsEffectGIMPShadowsHightlights",
     "SettingsEffectHumanMatting", "SettingsEffectImageBlender", "SettingsEffectInvert", "SettingsEffectLUT",
-    "SettingsEffectMask", "SettingsEffectNegateVideo", "SettingsEffectNoiseVideo", "SettingsEffectPad",
-    "SettingsEffectPosterize", "SettingsEffectRemoveGrain", "SettingsEffectRetroColors", "SettingsEffectSaturation",
-    "SettingsEffectSharpen", "SettingsEffectShiftLuma", "SettingsEffectShiftUV", "SettingsEffectTemplateZES",
+    "SettingsEffectMask", "SettingsEffectNegateVideo", "SettingsEffectPad",
+    "SettingsEffectPosterize", "SettingsEffectRetroColors", "SettingsEffectSaturation",
+    "SettingsEffectShiftLuma", "SettingsEffectShiftUV", "SettingsEffectTemplateZES",
     "SettingsEffectTransform",
    
     "SettingsTransitionBarnDoor", "SettingsTransitionBlur",

@@ -57,6 +57,18 @@ expect "show: a failure stops the option strings and shows the record as it was 
 run show NoSuchClass
 expect "show: an unknown class" 2 'error: unknown class identifier or class name: NoSuchClass' ''
 
+run show VideoDecoder 'frameType=allowgpu' 'frameSize=0x720'
+expect "show: a decoder allowed GPU frames, then a frame size with a zero side" 1 \
+  'error: std::invalid_argument: Invalid frame size'
+expect_member "show: the decoder keeps its frame type and no size" fields \
+  '"fields": {"frameType": 1,"minColorDepth": 10,"outputResolution": null,"colorSpaceOverride": {'\
+'"matrix": 2,"primaries": 2,"transfer": 2}}'
+
+run show SettingsAudioEqualizer 'freq0=100:gain0=2.5' 'intensity=0.5:freq0=-1:gain0=1'
+expect "show: an equalizer band with a negative frequency" 1 'error: SettingsException: Invalid Echo'
+expect_member "show: the band list is kept; the intensity read before it stays" fields \
+  '"fields": {"multiband": [{"frequency": 100,"gain": 2.5}],"intensity": 0.5}'
+
 run list
 expect "list" 0 ""
 if [ "$(wc -l <<<"$out")" -ne 220 ] ||
