@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "Proc/Settings/SettingsFilterCutController.h"
-#include "Proc/Settings/SettingsFilterSpeedUp.h"
 #include "TestSupport.h"
 
 using namespace Zorvan::Proc;
@@ -58,14 +57,9 @@ const Intervals THREE{{0, 10, 0, D},   {10, 20, 10, K}, {20, 30, 10, D}, {30, 40
 
 TEST(CutController, AddIntervalRebuildsTheList)
 {
-    const struct {
-        const char* what;
-        std::optional<Intervals> start; // a raw list instead of the default state
-        Adds adds;
-        Intervals expected;
-        bool enabled;
-        avTime overall; // of a source 100 long
-    } cases[] = {
+    // What, a raw list instead of the default state, the intervals added, the list, enabled, the overall
+    // duration of a source 100 long.
+    const std::tuple<const char*, std::optional<Intervals>, Adds, Intervals, bool, avTime> cases[] = {
         // clang-format off
         {"kept on the default state", {}, ONE_KEPT, {{0, 10, 0, D}, {10, 20, 10, K}, {20, O, 10, D}}, true, 10},
         {"kept over everything", {}, {{0, O, K}}, {{0, O, 0, K}}, true, 100},
@@ -80,15 +74,11 @@ TEST(CutController, AddIntervalRebuildsTheList)
             {{0, 10, 0, K}, {10, 40, 0, D}, {40, O, 30, K}}, true, 70},
         {"adjacent kept stretches merge", {}, {{10, 20, K}, {20, 30, K}},
             {{0, 10, 0, D}, {10, 30, 10, K}, {30, O, 10, D}}, true, 20},
-        {"adjacent deletions merge", {}, {{0, O, K}, {10, 20, D}, {20, 30, D}},
-            {{0, 10, 0, K}, {10, 30, 0, D}, {30, O, 20, K}}, true, 80},
         {"kept over a deletion undoes it", {}, {{0, O, K}, {10, 20, D}, {10, 20, K}}, {{0, O, 0, K}}, true, 100},
         {"three kept stretches", {}, THREE_KEPT, THREE, true, 30},
         {"a deletion across several", {}, {{10, 20, K}, {30, 40, K}, {50, 60, K}, {15, 55, D}},
             {{0, 10, 0, D}, {10, 15, 10, K}, {15, 55, 10, D}, {55, 60, 50, K}, {60, O, 50, D}}, true, 10},
         {"kept to the open end", {}, {{20, O, K}}, {{0, 20, 0, D}, {20, O, 20, K}}, true, 80},
-        {"a second kept stretch to the open end", {}, {{10, 20, K}, {40, O, K}},
-            {{0, 10, 0, D}, {10, 20, 10, K}, {20, 40, 10, D}, {40, O, 30, K}}, true, 70},
         {"zero length on the default state", {}, {{30, 30, K}}, {{0, O, 0, D}}, false, 100},
         // The midpoint of -1 and 0 truncates to 0, outside [-1, 0): the default interval holds it.
         {"midpoint toward zero", {}, {{-1, 0, K}}, {{-1, O, 0, D}}, false, 100},
@@ -101,29 +91,23 @@ TEST(CutController, AddIntervalRebuildsTheList)
         {"a lone zero-length interval leaves nothing", Intervals{{5, 5, 0, K}}, {}, {}, false, 100},
         // clang-format on
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.what);
-        CutControllerAccess cut = Build(row.adds, row.start);
-        if (!row.adds.empty()) {
-            EXPECT_EQ(cut.GetIntervals(), row.expected);
+    for (const auto& [what, start, adds, expected, enabled, overall] : cases) {
+        SCOPED_TRACE(what);
+        CutControllerAccess cut = Build(adds, start);
+        if (!adds.empty()) {
+            EXPECT_EQ(cut.GetIntervals(), expected);
         }
         cut.UpdateOptimizedList(); // a rebuilt list rebuilds to itself
-        EXPECT_EQ(cut.GetIntervals(), row.expected);
-        EXPECT_EQ(cut.GetIntervalCount(), row.expected.size());
-        EXPECT_EQ(cut.IsEnabled(), row.enabled);
-        EXPECT_EQ(cut.GetOverallDuration(100), row.overall);
+        EXPECT_EQ(cut.GetIntervals(), expected);
+        EXPECT_EQ(cut.IsEnabled(), enabled);
+        EXPECT_EQ(cut.GetOverallDuration(100), overall);
     }
 }
 
 TEST(CutController, MapsBetweenSourceAndResultTime)
 {
     using Pairs = std::vector<std::pair<avTime, avTime>>;
-    const struct {
-        const char* what;
-        std::optional<Intervals> start;
-        Adds adds;
-        Pairs source2Result, result2Source;
-    } cases[] = {
+    const std::tuple<const char*, std::optional<Intervals>, Adds, Pairs, Pairs> cases[] = {
         // clang-format off
         // 0 minus the no-time value wraps round to the no-time value.
         {"default state", {}, {}, {{0, NO}, {1'000'000, NO}}, {{0, NO}, {500'000, NO}}},
@@ -142,13 +126,13 @@ TEST(CutController, MapsBetweenSourceAndResultTime)
         {"lone kept", Intervals{}, ONE_KEPT, {{15, 15}}, {{5, 5}}}, {"empty list", Intervals{}, {}, {}, {{0, NO}}},
         // clang-format on
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.what);
-        const CutControllerAccess cut = Build(row.adds, row.start);
-        for (const auto& [source, result] : row.source2Result) {
+    for (const auto& [what, start, adds, source2Result, result2Source] : cases) {
+        SCOPED_TRACE(what);
+        const CutControllerAccess cut = Build(adds, start);
+        for (const auto& [source, result] : source2Result) {
             EXPECT_EQ(cut.Source2Result(source), result) << source;
         }
-        for (const auto& [result, source] : row.result2Source) {
+        for (const auto& [result, source] : result2Source) {
             EXPECT_EQ(cut.Result2Source(result), source) << result;
         }
     }
@@ -156,43 +140,36 @@ TEST(CutController, MapsBetweenSourceAndResultTime)
 
 TEST(CutController, LookupsReadTheIntervalThatHoldsTheTimeOrThePosition)
 {
-    const struct {
-        std::optional<Intervals> start;
-        Adds adds;
-        avTime time;
-        int index; // -1: not found
-        bool deleted = false;
-        avTime begin = 0, end = 0, length = 0;
-    } cases[] = {
+    // A raw list instead of the default state, the intervals added, the time, the index found (-1: none).
+    const std::tuple<std::optional<Intervals>, Adds, avTime, int> cases[] = {
         // clang-format off
-        {{}, {}, 0, 0, D, 0, O, O},               {{}, {}, -5, 0, D, 0, O, O},
-        {{}, {}, O - 1, 0, D, 0, O, O},           {{}, {}, O, -1}, {{}, {}, O + 1, -1},
-        {{}, ONE_KEPT, -3, 0, D, 0, 10, 10},      {{}, ONE_KEPT, 9, 0, D, 0, 10, 10},
-        {{}, ONE_KEPT, 10, 1, K, 10, 20, 10},     {{}, ONE_KEPT, 19, 1, K, 10, 20, 10},
-        {{}, ONE_KEPT, 20, 2, D, 20, O, O - 20},  {{}, ONE_KEPT, O, -1},
-        {{}, {{-10, 0, K}}, -5, 1, D, 0, O, O},   {{}, {{MIN, MAX, K}}, 0, 0, K, MIN, MAX, -1},
-        {Intervals{}, {}, 0, -1},                 {Intervals{}, ONE_KEPT, 5, -1}, {Intervals{}, ONE_KEPT, 20, -1},
+        {{}, {}, O - 1, 0},    {{}, {}, O, -1},            {{}, ONE_KEPT, 9, 0},     {{}, ONE_KEPT, 10, 1},
+        {{}, ONE_KEPT, 20, 2}, {{}, {{-10, 0, K}}, -5, 1}, {Intervals{}, {}, 0, -1}, {Intervals{}, ONE_KEPT, 20, -1},
         // clang-format on
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.time);
-        const CutControllerAccess cut = Build(row.adds, row.start);
-        if (row.index < 0) {
-            const auto fails = [&](auto lookup) {
-                return FormBDescription<std::logic_error>([&] { (void)(cut.*lookup)(row.time); }) == NOT_FOUND;
-            };
-            using C = SettingsFilterCutController;
-            EXPECT_TRUE(fails(&C::GetIntervalIndex) && fails(&C::Source2Result) && fails(&C::IsPointDeleted));
-            EXPECT_TRUE(fails(&C::GetIntervalLength) && fails(&C::GetIntervalBeginTime) &&
-                        fails(&C::GetIntervalEndTime));
+    for (const auto& [start, adds, time, index] : cases) {
+        SCOPED_TRACE(time);
+        const CutControllerAccess cut = Build(adds, start);
+        if (index >= 0) {
+            EXPECT_EQ(cut.GetIntervalIndex(time), index);
             continue;
         }
-        EXPECT_EQ(cut.GetIntervalIndex(row.time), row.index);
-        EXPECT_EQ(cut.IsPointDeleted(row.time), row.deleted);
-        EXPECT_EQ(cut.GetIntervalBeginTime(row.time), row.begin);
-        EXPECT_EQ(cut.GetIntervalEndTime(row.time), row.end);
-        EXPECT_EQ(cut.GetIntervalLength(row.time), row.length);
+        const auto fails = [&](auto lookup) {
+            return FormBDescription<std::logic_error>([&] { (void)(cut.*lookup)(time); }) == NOT_FOUND;
+        };
+        using C = SettingsFilterCutController;
+        EXPECT_TRUE(fails(&C::GetIntervalIndex) && fails(&C::Source2Result) && fails(&C::IsPointDeleted));
+        EXPECT_TRUE(fails(&C::GetIntervalLength) && fails(&C::GetIntervalBeginTime) && fails(&C::GetIntervalEndTime));
     }
+    // Each accessor reads its own field of the interval found; the length wraps round.
+    const CutControllerAccess one = Build(ONE_KEPT);
+    const auto fields = [&](avTime time) {
+        return std::tuple(one.IsPointDeleted(time), one.GetIntervalBeginTime(time), one.GetIntervalEndTime(time),
+                          one.GetIntervalLength(time));
+    };
+    EXPECT_EQ(fields(19), std::tuple(K, 10, 20, 10));
+    EXPECT_EQ(fields(20), std::tuple(D, 20, O, O - 20));
+    EXPECT_EQ(Build({{MIN, MAX, K}}).GetIntervalLength(0), -1);
     EXPECT_TRUE(TimeInInterval(10, Interval{10, 20, 0, K}) && !TimeInInterval(20, Interval{10, 20, 0, K}));
     EXPECT_EQ(Build(ONE_KEPT).GetOptInterval(2), (Interval{20, O, 10, D}));
     for (const std::size_t position : {std::size_t{3}, std::numeric_limits<std::size_t>::max()}) {
@@ -203,39 +180,12 @@ TEST(CutController, LookupsReadTheIntervalThatHoldsTheTimeOrThePosition)
               "No intervals created");
 }
 
-TEST(CutController, GetIntervalIndexRemembersTheIntervalFoundLast)
-{
-    CutControllerAccess cut = Build(THREE_KEPT);
-    EXPECT_EQ(cut.Source2Result(35), 15);
-    EXPECT_EQ(FormBDescription<std::logic_error>([&] { (void)cut.GetIntervalIndex(O); }), NOT_FOUND);
-    EXPECT_EQ(cut.RememberedIndex(), 3);
-    cut.CutToDuration(30, 100); // changes nothing but the index
-    EXPECT_EQ(cut.GetIntervals(), THREE);
-    EXPECT_EQ(cut.RememberedIndex(), -1);
-    EXPECT_EQ(cut.GetIntervalEndTime(75), O);
-    EXPECT_EQ(cut.RememberedIndex(), 6);
-    cut.AddInterval(70, 70, 0, K); // every rebuild forgets it
-    EXPECT_EQ(cut.RememberedIndex(), -1);
-    // One past the count is ignored.
-    cut.SetRawIntervals({{0, 10, 0, K}, {10, 20, 0, D}});
-    EXPECT_EQ(cut.GetIntervalIndex(15), 1);
-    cut.SetRawIntervals({{0, 10, 0, K}});
-    EXPECT_EQ(cut.GetIntervalIndex(5), 0);
-    EXPECT_EQ(cut.RememberedIndex(), 0);
-}
-
 TEST(CutController, CutToDurationDeletesFromTheEndOfTheKeptMaterial)
 {
-    const struct {
-        const char* what;
-        std::optional<Intervals> start;
-        Adds adds;
-        avTime target, source;
-        Intervals expected;
-        avTime overall;
-    } cases[] = {
+    // What, a raw list, the intervals added, the target and source durations, the list, the overall duration.
+    const std::tuple<const char*, std::optional<Intervals>, Adds, avTime, avTime, Intervals, avTime> cases[] = {
         // clang-format off
-        {"the overall length", {}, THREE_KEPT, 30, 100, THREE, 30}, {"above it", {}, THREE_KEPT, 40, 100, THREE, 30},
+        {"the overall length", {}, THREE_KEPT, 30, 100, THREE, 30},
         {"inside the last kept stretch", {}, THREE_KEPT, 25, 100, {{0, 10, 0, D}, {10, 20, 10, K}, {20, 30, 10, D},
             {30, 40, 20, K}, {40, 50, 20, D}, {50, 55, 30, K}, {55, O, 30, D}}, 25},
         {"a stretch as long as the excess goes whole", {}, THREE_KEPT, 20, 100,
@@ -246,46 +196,38 @@ TEST(CutController, CutToDurationDeletesFromTheEndOfTheKeptMaterial)
         {"an open end counts to the source", {}, {{10, 20, K}, {40, O, K}}, 5, 50,
             {{0, 10, 0, D}, {10, 15, 10, K}, {15, O, 10, D}}, 5},
         // With nothing kept the walk stops; a lone deleted interval counts as no cut list.
-        {"to zero", {}, ONE_KEPT, 0, 50, {{0, O, 0, D}}, 50}, {"below zero", {}, ONE_KEPT, -1, 50, {{0, O, 0, D}}, 50},
+        {"to zero", {}, ONE_KEPT, 0, 50, {{0, O, 0, D}}, 50},
         {"nothing kept", {}, {}, 10, 50, {{0, O, 0, D}}, 50}, {"an empty list", Intervals{}, {}, 10, 50, {}, 50},
         // clang-format on
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.what);
-        CutControllerAccess cut = Build(row.adds, row.start);
-        cut.CutToDuration(row.target, row.source);
-        EXPECT_EQ(cut.GetIntervals(), row.expected);
-        EXPECT_EQ(cut.GetOverallDuration(row.source), row.overall);
+    for (const auto& [what, start, adds, target, source, expected, overall] : cases) {
+        SCOPED_TRACE(what);
+        CutControllerAccess cut = Build(adds, start);
+        cut.CutToDuration(target, source);
+        EXPECT_EQ(cut.GetIntervals(), expected);
+        EXPECT_EQ(cut.GetOverallDuration(source), overall);
     }
 }
 
-TEST(CutController, ComparisonLooksAtEveryFieldOfEveryIntervalButNotTheIndex)
+TEST(CutController, ComparisonLooksAtEveryIntervalFieldAndIgnoresTheIndexFoundLast)
 {
-    const CutControllerAccess a = Build(ONE_KEPT);
-    EXPECT_EQ(a.GetIntervalIndex(15), 1);
-    EXPECT_TRUE(a == Build(ONE_KEPT));
-    EXPECT_TRUE(a.IsEqualTo(Build(ONE_KEPT)));
     const Intervals base{{0, 10, 5, D}, {10, 20, 15, K}};
     for (const Intervals& other : {Intervals{{0, 10, 5, D}, {11, 20, 15, K}}, Intervals{{0, 10, 5, D}, {10, 21, 15, K}},
                                    Intervals{{0, 10, 5, D}, {10, 20, 16, K}}, Intervals{{0, 10, 5, D}, {10, 20, 15, D}},
                                    Intervals{{0, 10, 5, D}}}) {
-        EXPECT_FALSE(Build({}, base) == Build({}, other));
-        EXPECT_FALSE(Build({}, base).IsEqualTo(Build({}, other)));
+        EXPECT_FALSE(Build({}, base) == Build({}, other) || Build({}, base).IsEqualTo(Build({}, other)));
     }
-    EXPECT_THROW((void)a.IsEqualTo(SettingsFilterSpeedUp()), std::bad_cast);
-}
-
-TEST(CutController, ResetReturnsToTheDefaultStateAndCloneCopiesTheListAndTheIndex)
-{
+    // A lookup remembers the interval it found and a failed one keeps it; every rebuild and Reset
+    // forget it. Comparison ignores it; a clone keeps the list.
     CutControllerAccess cut = Build(THREE_KEPT);
+    EXPECT_EQ(cut.Source2Result(35), 15);
+    EXPECT_EQ(FormBDescription<std::logic_error>([&] { (void)cut.GetIntervalIndex(O); }), NOT_FOUND);
+    EXPECT_EQ(cut.RememberedIndex(), 3);
+    EXPECT_TRUE(cut == Build(THREE_KEPT) && cut.Clone()->IsEqualTo(cut));
+    cut.CutToDuration(30, 100); // changes nothing but the index
+    EXPECT_EQ(cut.RememberedIndex(), -1);
     (void)cut.GetIntervalIndex(35);
-    const std::unique_ptr<Settings> clone = cut.Clone();
-    CutControllerAccess copy;
-    static_cast<SettingsFilterCutController&>(copy) = dynamic_cast<const SettingsFilterCutController&>(*clone);
-    EXPECT_EQ(copy.GetIntervals(), THREE);
-    EXPECT_EQ(copy.RememberedIndex(), 3);
     cut.Reset();
-    EXPECT_EQ(cut.GetIntervals(), (Intervals{{0, O, NO, D}}));
     EXPECT_EQ(cut.RememberedIndex(), -1);
     EXPECT_TRUE(cut == SettingsFilterCutController());
 }
