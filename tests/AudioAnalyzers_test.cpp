@@ -16,7 +16,7 @@ using Silence = SettingsAnalyzerSilenceDetector;
 
 static_assert(std::is_base_of_v<IAnalyzerResult, Shift::Result> && std::is_base_of_v<IAnalyzerResult, Silence::Result>);
 
-TEST(AudioAnalyzers, DetectShiftBoundsRateWindowAndStepAlsoWhenDeserialized)
+TEST(AudioAnalyzers, SettersBoundTheirValuesAlsoWhenDeserialized)
 {
     Shift shift;
     const auto fields = [&] { return std::tuple(shift.GetSampleRate(), shift.GetWindow(), shift.GetPatternStep()); };
@@ -36,12 +36,10 @@ TEST(AudioAnalyzers, DetectShiftBoundsRateWindowAndStepAlsoWhenDeserialized)
     // A negative window wraps round to a large one, which the setter accepts.
     shift.Deserialize("window=-5:patternStep=7");
     EXPECT_EQ(fields(), std::tuple(8, 18446744073709551611UL, 7UL));
-}
 
-TEST(AudioAnalyzers, SilenceDetectorTakesMillisecondsAndBoundsThem)
-{
+    // The silence detector takes milliseconds and bounds them.
     Silence silence;
-    const auto fields = [&] { return std::pair(silence.GetThreshold(), silence.GetMinSilenceDuration()); };
+    const auto silenceFields = [&] { return std::pair(silence.GetThreshold(), silence.GetMinSilenceDuration()); };
     const std::string duration = "Invalid minimum silence duration. Should be more than 100ms";
     for (const float bad : {-0.01F, std::nextafter(1.0F, 2.0F), std::nanf("")}) {
         EXPECT_EQ(FormADescription<SettingsException>([&] { silence.SetThreshold(bad); }),
@@ -51,7 +49,7 @@ TEST(AudioAnalyzers, SilenceDetectorTakesMillisecondsAndBoundsThem)
     EXPECT_EQ(FormADescription<SettingsException>([&] { silence.SetMinSilenceDuration(99); }), duration);
     silence.SetThreshold(1.0F);
     silence.SetMinSilenceDuration(100);
-    EXPECT_EQ(fields(), std::pair(1.0F, avTime{100'000}));
+    EXPECT_EQ(silenceFields(), std::pair(1.0F, avTime{100'000}));
     silence.SetMinSilenceDuration(std::numeric_limits<avTime>::max()); // times 1000 wraps round
     EXPECT_EQ(silence.GetMinSilenceDuration(), -1000);
     // The threshold is read first.
@@ -59,7 +57,7 @@ TEST(AudioAnalyzers, SilenceDetectorTakesMillisecondsAndBoundsThem)
               duration);
     EXPECT_EQ(silence.GetThreshold(), 0.0F);
     silence.Deserialize("minSilenceDuration=2147483647:threshold=0.25");
-    EXPECT_EQ(fields(), std::pair(0.25F, avTime{2'147'483'647'000}));
+    EXPECT_EQ(silenceFields(), std::pair(0.25F, avTime{2'147'483'647'000}));
 
     // Microseconds in, milliseconds out, truncated toward zero, as they come.
     using Pairs = std::vector<std::pair<long long, long long>>;

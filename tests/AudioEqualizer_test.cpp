@@ -62,7 +62,7 @@ SettingsAudioRadio Radio(const Bands& bands, float eqIntensity, unsigned int cra
 
 } // namespace
 
-TEST(AudioEqualizer, CheckedSettersAtTheirBoundsKeepTheFieldOnFailure)
+TEST(AudioEqualizer, CheckedSettersAtTheirBoundsKeepTheFieldOnFailureAndBandListsAreReplacedWhole)
 {
     SettingsAudioEqualizer eq;
     SettingsAudioRadio radio;
@@ -70,23 +70,22 @@ TEST(AudioEqualizer, CheckedSettersAtTheirBoundsKeepTheFieldOnFailure)
     const double none = std::nan("");
     const double aboveF = Up(1.0F);
     const double belowF = -std::numeric_limits<float>::denorm_min();
+    const double belowD = -std::numeric_limits<double>::denorm_min();
+    using Setter = std::function<void(double)>;
 // A setter and its getter on a record, both through doubles; T is the setter's argument type.
 #define SETTER(record, Set, Get, T) [&](double v) { record.Set(T(v)); }, [&] { return double(record.Get()); }
     // Setter, getter, lowest and highest accepted, below and above refused (not-a-number: none), what is thrown.
-    const std::tuple<std::function<void(double)>, std::function<double()>, double, double, double, double, Thrown,
-                     const char*>
-        cases[] = {
-            {SETTER(eq, SetIntensity, GetIntensity, float), 0, 1, belowF, aboveF, kEffect, kIntensity},
-            {SETTER(radio, SetNoiseLevel, GetNoiseLevel, double), 0, 1, -std::numeric_limits<double>::denorm_min(),
-             Up(1.0), kSettings, "Invalid noise level"},
-            {SETTER(radio, SetCracklePrecision, GetCracklePrecision, unsigned), 1, 4294967295.0, 0, none, kSettings,
-             "Invalid crackle precision"},
-            {SETTER(radio, SetIntensity, GetIntensity, float), 0, 1, belowF, aboveF, kEffect, kIntensity},
-            {SETTER(dist, SetType, GetType, unsigned), 0, 4, none, 5, kEffect, "Invalid type!"},
-            {SETTER(dist, SetIntensity, GetIntensity, float), 0, 1, belowF, aboveF, kEffect, "Invalid intensity!"},
-            {SETTER(dist, SetBoost, GetBoost, float), 0, 1, belowF, aboveF, kEffect, "Invalid boost!"},
-            {SETTER(dist, SetTone, GetTone, float), 0, 1, belowF, aboveF, kEffect, "Invalid tone!"},
-        };
+    const std::tuple<Setter, std::function<double()>, double, double, double, double, Thrown, const char*> cases[] = {
+        {SETTER(eq, SetIntensity, GetIntensity, float), 0, 1, belowF, aboveF, kEffect, kIntensity},
+        {SETTER(radio, SetNoiseLevel, GetNoiseLevel, double), 0, 1, belowD, Up(1.0), kSettings, "Invalid noise level"},
+        {SETTER(radio, SetCracklePrecision, GetCracklePrecision, unsigned), 1, 4294967295.0, 0, none, kSettings,
+         "Invalid crackle precision"},
+        {SETTER(radio, SetIntensity, GetIntensity, float), 0, 1, belowF, aboveF, kEffect, kIntensity},
+        {SETTER(dist, SetType, GetType, unsigned), 0, 4, none, 5, kEffect, "Invalid type!"},
+        {SETTER(dist, SetIntensity, GetIntensity, float), 0, 1, belowF, aboveF, kEffect, "Invalid intensity!"},
+        {SETTER(dist, SetBoost, GetBoost, float), 0, 1, belowF, aboveF, kEffect, "Invalid boost!"},
+        {SETTER(dist, SetTone, GetTone, float), 0, 1, belowF, aboveF, kEffect, "Invalid tone!"},
+    };
 #undef SETTER
     for (const auto& [set, get, low, high, below, above, thrown, text] : cases) {
         for (const double accepted : {low, high}) {
@@ -100,17 +99,15 @@ TEST(AudioEqualizer, CheckedSettersAtTheirBoundsKeepTheFieldOnFailure)
             }
         }
     }
-}
 
-TEST(AudioEqualizer, BandListsAreCheckedWholeAndOptionStringsReplaceThem)
-{
-    SettingsAudioEqualizer set = Equalizer({{50, 1.0}}, 1.0F);
-    ExpectOutcome([&] { set.SetMultiband({{100, 1.0}, {-1, 1.0}}); }, kSettings, "Invalid Echo");
-    EXPECT_EQ(set.GetMultiband(), (Bands{{50, 1.0}}));              // checked whole before anything is stored
+    // A band list is checked whole; an option string replaces it.
+    eq = Equalizer({{50, 1.0}}, 1.0F);
+    ExpectOutcome([&] { eq.SetMultiband({{100, 1.0}, {-1, 1.0}}); }, kSettings, "Invalid Echo");
+    EXPECT_EQ(eq.GetMultiband(), (Bands{{50, 1.0}}));               // checked whole before anything is stored
     const Bands four{{0, -1e300}, {20, 3.0}, {10, 4.0}, {30, 5.0}}; // any length and order; gains unchecked
-    set.SetMultiband(four);
-    EXPECT_EQ(set.GetMultiband(), four);
-    const std::tuple<const char*, Thrown, Bands, float> cases[] = {
+    eq.SetMultiband(four);
+    EXPECT_EQ(eq.GetMultiband(), four);
+    const std::tuple<const char*, Thrown, Bands, float> options[] = {
         {"intensity=0.5", kNothing, {}, 0.5F},
         {"freq0=100", kNothing, {}, 0.75F}, // an incomplete pair adds no band and raises nothing
         {"freq2=300:gain2=-6", kNothing, {{300, -6.0}}, 0.75F},
@@ -118,29 +115,27 @@ TEST(AudioEqualizer, BandListsAreCheckedWholeAndOptionStringsReplaceThem)
         // The intensity is applied before the bands are refused.
         {"intensity=0.25:freq0=1:gain0=1:freq1=-2:gain1=1", kSettings, {{50, 1.0}}, 0.25F},
     };
-    for (const auto& [options, thrown, bands, intensity] : cases) {
-        SettingsAudioEqualizer eq = Equalizer({{50, 1.0}}, 0.75F);
-        ExpectOutcome([&] { eq.Deserialize(options); }, thrown, "Invalid Echo");
-        EXPECT_EQ(eq.GetMultiband(), bands) << options;
-        EXPECT_EQ(eq.GetIntensity(), intensity) << options;
+    for (const auto& [text, thrown, bands, intensity] : options) {
+        eq = Equalizer({{50, 1.0}}, 0.75F);
+        ExpectOutcome([&] { eq.Deserialize(text); }, thrown, "Invalid Echo");
+        EXPECT_EQ(eq.GetMultiband(), bands) << text;
+        EXPECT_EQ(eq.GetIntensity(), intensity) << text;
     }
 }
 
-TEST(AudioEqualizer, RadioRebuildsItsEqualizerFromEveryOptionString)
+TEST(AudioEqualizer, RadioRebuildsItsEqualizerFromEveryOptionStringAndComparesItsBandsTolerantly)
 {
     // Options, what is thrown, the bands, then equalizer intensity, crackle, noise and intensity.
-    const std::tuple<const char*, Thrown, const char*, Bands, std::tuple<float, std::uint32_t, double, float>> cases[] =
-        {
-            {"noise_level=0.5", kNothing, "", {}, {1.0F, 7, 0.5, 0.125F}},
-            {"intensity=0.25:freq1=200:gain1=3", kNothing, "", {{200, 3.0}}, {0.25F, 7, 0.25, 0.25F}},
-            {"crackle_precision=4294967297:freq0=60:gain0=-2", kNothing, "", {{60, -2.0}}, {1.0F, 1, 0.25, 0.125F}},
-            {"crackle_precision=4294967296",
-             kSettings,
-             "Invalid crackle precision",
-             {{50, 1.0}},
-             {0.75F, 7, 0.25, 0.125F}},
-            {"intensity=0.5:freq0=-1:gain0=1", kSettings, "Invalid Echo", {{50, 1.0}}, {0.75F, 7, 0.25, 0.5F}},
-        };
+    using Rest = std::tuple<float, std::uint32_t, double, float>;
+    const std::tuple<const char*, Thrown, const char*, Bands, Rest> cases[] = {
+        // clang-format off
+        {"noise_level=0.5", kNothing, "", {}, {1.0F, 7, 0.5, 0.125F}},
+        {"intensity=0.25:freq1=200:gain1=3", kNothing, "", {{200, 3.0}}, {0.25F, 7, 0.25, 0.25F}},
+        {"crackle_precision=4294967297:freq0=60:gain0=-2", kNothing, "", {{60, -2.0}}, {1.0F, 1, 0.25, 0.125F}},
+        {"crackle_precision=4294967296", kSettings, "Invalid crackle precision", {{50, 1.0}}, {0.75F, 7, 0.25, 0.125F}},
+        {"intensity=0.5:freq0=-1:gain0=1", kSettings, "Invalid Echo", {{50, 1.0}}, {0.75F, 7, 0.25, 0.5F}},
+        // clang-format on
+    };
     for (const auto& [options, thrown, text, bands, rest] : cases) {
         SettingsAudioRadio radio = Radio({{50, 1.0}}, 0.75F, 7, 0.25, 0.125F);
         ExpectOutcome([&] { radio.Deserialize(options); }, thrown, text);
@@ -150,13 +145,10 @@ TEST(AudioEqualizer, RadioRebuildsItsEqualizerFromEveryOptionString)
                   rest)
             << options;
     }
-}
-
-TEST(AudioEqualizer, RadioComparesBandsTolerantlyAndEqualizerIntensityExactly)
-{
+    // Bands are compared with a tolerance, the equalizer's intensity exactly.
     const SettingsAudioRadio base = Radio({{100, 1.0}}, 0.5F, 3, 0.25, 0.5F);
     const double threeUp = 1 + 3 * std::numeric_limits<double>::epsilon();
-    const std::pair<SettingsAudioRadio, bool> cases[] = {
+    const std::pair<SettingsAudioRadio, bool> comparisons[] = {
         // clang-format off
         {Radio({{100, Up(1.0)}}, 0.5F, 3, 0.25, 0.5F), true}, {Radio({{100, threeUp}}, 0.5F, 3, 0.25, 0.5F), false},
         {Radio({{101, 1.0}}, 0.5F, 3, 0.25, 0.5F), false}, {Radio({{100, 1}, {100, 1}}, 0.5F, 3, 0.25, 0.5F), false},
@@ -164,8 +156,8 @@ TEST(AudioEqualizer, RadioComparesBandsTolerantlyAndEqualizerIntensityExactly)
         {Radio({{100, 1.0}}, 0.5F, 3, Up(0.25), 0.5F), true},  {Radio({{100, 1.0}}, 0.5F, 3, 0.25, Up(0.5F)), true},
         // clang-format on
     };
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        EXPECT_EQ(base == cases[i].first, cases[i].second) << i;
+    for (std::size_t i = 0; i < std::size(comparisons); ++i) {
+        EXPECT_EQ(base == comparisons[i].first, comparisons[i].second) << i;
     }
 }
 

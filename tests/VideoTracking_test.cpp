@@ -45,7 +45,7 @@ T Start()
 
 } // namespace
 
-TEST(VideoTracking, SetRectChecksLeftTopAndBothFarEdgesButNotTheSizes)
+TEST(VideoTracking, TheRectangleIsCheckedOnLeftTopAndBothFarEdgesAndDeserializeAlwaysSetsIt)
 {
     const double nan = std::nan("");
     const Rect valid[] = {{0.5, 0, 0.5, 1}, {0.5, 0.25, -0.5, 0.5}, {1, 1, 0, 0}, {1, 1, -1, -1}, {0, 0, 1, 1}};
@@ -63,10 +63,8 @@ TEST(VideoTracking, SetRectChecksLeftTopAndBothFarEdgesButNotTheSizes)
         EXPECT_EQ(FormADescription<SettingsException>([&] { set(track, rect); }), RECT) << testing::PrintToString(rect);
         EXPECT_EQ(Of(track), QUARTER);
     }
-}
 
-TEST(VideoTracking, DeserializeReadsTheDerivedKeysThenTheBeginThenAlwaysTheRectangle)
-{
+    // Deserialize reads the derived class's keys, then the begin, then always the rectangle.
     TrackBase base = Start<TrackBase>();
     // A key the string lacks takes 0, 0, 1 or 1, not the field's value; begin is a whole number, not scaled.
     base.Deserialize("begin=12.9:leftTopY=0.25:height=0.5");
@@ -125,14 +123,14 @@ TEST(VideoTracking, OnnxModelSettersLookAtTheOtherMemberOnly)
     EXPECT_TRUE(swapped == TrackOnnx());
 }
 
-TEST(VideoTracking, OperatorsCompareEveryFieldExactlyButTheConfidenceThreshold)
+TEST(VideoTracking, OperatorsAndTheResultCompareEveryFieldExactlyButTheConfidenceThreshold)
 {
     const auto differs = [](const auto& base, auto change) {
         auto other = base;
         change(other);
         return base != other;
     };
-    const auto cv = Start<TrackOpenCV>();
+    const TrackOpenCV cv = Start<TrackOpenCV>();
     EXPECT_TRUE(differs(cv, [](auto& t) { t.SetBegin(1); }));
     EXPECT_TRUE(differs(cv, [](auto& t) { t.SetAlgorithm(TrackOpenCV::Algorithm(4)); }));
     const TrackOnnx onnx = Start<TrackOnnx>();
@@ -153,10 +151,8 @@ TEST(VideoTracking, OperatorsCompareEveryFieldExactlyButTheConfidenceThreshold)
     // Clones keep every field.
     EXPECT_TRUE(dynamic_cast<const TrackOpenCV&>(*cv.Clone()) == cv);
     EXPECT_TRUE(dynamic_cast<const TrackOnnx&>(*onnx.Clone()) == onnx);
-}
 
-TEST(VideoTracking, ResultKeepsEveryRectangleInOrderAndComparesExactly)
-{
+    // The result keeps every rectangle in order and compares them exactly too.
     TrackBase::Result a;
     a.AddTrackingInfo(40, 41, {0.5, 0.5, 0.25, 0.25});
     a.AddTrackingInfo(-9'000'000'000, 9'000'000'000, {-1, 2, 5, -3}); // earlier, and beyond SetRect's range
