@@ -154,6 +154,7 @@ TEST(Resizer, OutputFrameSize)
         {"Auto", Custom("1280x720:aspect=4x3", "Auto"), {}, 0, 0, {1920, 1080, 1, 1}, {1280, 720, 4, 3}},
         {"Stretch, finished", Custom("1281x0", "Stretch" + even), {}, 0, 0, {1920, 1080, 1, 1}, {1282, 2, 1, 1}},
         {"LetterBox, no maximum", Custom("640x480", "LetterBox"), {}, 10, 10, {1920, 1080, 1, 1}, {640, 480, 1, 1}},
+        {"UpTo keeps a smaller source", Custom("1920x1080", "UpTo"), {}, 0, 0, {1280, 720, 3, 2}, {1280, 720, 3, 2}},
         {"UpTo keeps an equal one", Custom("1920x1080", "UpTo"), {}, 0, 0, {1920, 1080, 3, 2}, {1920, 1080, 3, 2}},
         {"UpTo fits a larger one", Custom("1920x1080", "UpTo"), {}, 0, 0, {3840, 2160, 1, 1}, {1920, 1080, 1, 1}},
         // ratio 1280/1200 * 1/2 = 0.5333, w = trunc(576.0) = 576 < 1920.
@@ -189,8 +190,8 @@ TEST(Resizer, RegionOfInterestAndTheQuadToDraw)
     const FrameInfo hd{1920, 1080, 1, 1};
     // What, options, crop, the frame in, the source and target margins.
     const std::tuple<const char*, std::string, CropInfo, FrameInfo, CropInfo, CropInfo> cases[] = {
-        // candW 1440 < 1920: fit 1440x1080, d = -480, pad 481, h = 240: 240 and 240.
-        {"LetterBox 4:3 into 16:9", Custom("1920x1080", "LetterBox"), none, {1440, 1080, 1, 1}, none, {240, 240, 0, 0}},
+        // candW trunc(1081.08) = 1081 < 1921, even 1080; d = -841, pad 842, h = 421 (odd): 420 and 422.
+        {"LetterBox, odd width", Custom("1921x1080", "LetterBox"), none, {1001, 1000, 1, 1}, none, {420, 422, 0, 0}},
         // candH trunc(607.5) = 607, even 606; d = -474, pad 475, h = 237 (odd): 236 and 238.
         {"wide into square", Custom("1080x1080", "LetterBox"), none, hd, none, {0, 0, 236, 238}},
         // candH 1440: d = 360, cut = 360 * 720 / 1440 + 1 = 181, h = 90.
