@@ -16,4 +16,29 @@ std::unique_ptr<Settings> SettingsEffectNegateVideo::Clone() const
     return std::make_unique<SettingsEffectNegateVideo>(*this);
 }
 
+bool SettingsEffectNegateVideo::IsEqualTo(const Settings& other) const
+{
+    return *this == dynamic_cast<const SettingsEffectNegateVideo&>(other);
+}
+
+bool SettingsEffectNegateVideo::IsEmpty() const
+{
+    return mode == 0;
+}
+
+bool SettingsEffectNegateVideo::operator==(const SettingsEffectNegateVideo& other) const
+{
+    return mode == other.mode;
+}
+
+void SettingsEffectNegateVideo::SetMode(int value)
+{
+    mode = value;
+}
+
+int SettingsEffectNegateVideo::GetMode() const
+{
+    return mode;
+}
+
 } // namespace Zorvan::Proc
