@@ -65,5 +65,6 @@ void AddFieldsAudioEqualizer(FieldMap& fields);
 void AddFieldsAudioVoice(FieldMap& fields);
 void AddFieldsDenoise(FieldMap& fields);
 void AddFieldsColorBlending(FieldMap& fields);
+void AddFieldsChannelMixing(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -313,6 +313,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsAudioVoice(fields);
     CatalogDetail::AddFieldsDenoise(fields);
     CatalogDetail::AddFieldsColorBlending(fields);
+    CatalogDetail::AddFieldsChannelMixing(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
