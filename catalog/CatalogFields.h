@@ -66,5 +66,6 @@ void AddFieldsAudioVoice(FieldMap& fields);
 void AddFieldsDenoise(FieldMap& fields);
 void AddFieldsColorBlending(FieldMap& fields);
 void AddFieldsChannelMixing(FieldMap& fields);
+void AddFieldsImageEditor(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -314,6 +314,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsDenoise(fields);
     CatalogDetail::AddFieldsColorBlending(fields);
     CatalogDetail::AddFieldsChannelMixing(fields);
+    CatalogDetail::AddFieldsImageEditor(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
