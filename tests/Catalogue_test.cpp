@@ -27,19 +27,19 @@ namespace {
 const std::set<std::string> kNotLandedYet{
    
     "SettingsEffect360Cylindrical",
-    "SettingsEffectAim", "SettingsEffectAlphaChannelModifier",
-    "SettingsEffectBorder", "SettingsEffectChannelMixer",
+    "SettingsEffectAim",
+    "SettingsEffectBorder",
    
-    "SettingsEffectColorChannelMixer",
+   
     "SettingsEffectCrop",
    
     "SettingsEffectDisplacementMap", "SettingsEffectFillBlurredBackground", "SettingsEffectFlip",
-    "SettingsEffectFlyingObjects", "SettingsEffectGIMPColorCorrection", "SettingsEffectGIMPColorTemperature",
-    "SettingsEffectGIMPColorize", "SettingsEffectGIMPHueSaturation", "SettingsEffectGIMPShadowsHightlights",
-    "SettingsEffectHumanMatting", "SettingsEffectImageBlender", "SettingsEffectInvert", "SettingsEffectLUT",
-    "SettingsEffectMask", "SettingsEffectNegateVideo", "SettingsEffectPad",
-    "SettingsEffectPosterize", "SettingsEffectRetroColors", "SettingsEffectSaturation",
-    "SettingsEffectShiftLuma", "SettingsEffectShiftUV", "SettingsEffectTemplateZES",
+    "SettingsEffectFlyingObjects",
+   
+    "SettingsEffectHumanMatting", "SettingsEffectImageBlender",
+    "SettingsEffectMask", "SettingsEffectPad",
+   
+    "SettingsEffectTemplateZES",
     "SettingsEffectTransform",
    
     "SettingsTransitionBarnDoor", "SettingsTransitionBlur",

@@ -160,11 +160,15 @@ TEST(ChannelMixing, ShiftUVTurnsBothAxesAndRoundsUp)
 {
     // Blue-red, magenta-green; the pair; IsEmpty. A subnormal shift counts as zero.
     const std::vector<std::tuple<float, float, std::pair<int, int>, bool>> cases{
-        {0.0F, 0.0F, {0, 0}, true},        {1e-45F, -1e-45F, {0, 1}, true}, // empty, yet the ceil of a tiny difference
-                                                                            // is 1
-        {0.1F, 0.0F, {-18, 19}, false},                                     // a rounds to 25.5 in float
-        {1.0F, 1.0F, {-360, 0}, false},    {0.5F, -0.5F, {0, 181}, false},          {-1.0F, 0.0F, {181, -180}, false},
-        {0.0F, 2.0F, {-360, -360}, false}, {1e30F, 0.0F, {INT_MIN, INT_MAX}, false}};
+        {0.0F, 0.0F, {0, 0}, true},
+        {1e-45F, -1e-45F, {0, 1}, true}, // empty, yet the ceil of a tiny difference
+                                         // is 1
+        {0.1F, 0.0F, {-18, 19}, false},  // a rounds to 25.5 in float
+        {1.0F, 1.0F, {-360, 0}, false},
+        {0.5F, -0.5F, {0, 181}, false},
+        {-1.0F, 0.0F, {181, -180}, false},
+        {0.0F, 2.0F, {-360, -360}, false},
+        {1e30F, 0.0F, {INT_MIN, INT_MAX}, false}};
     for (const auto& [blueRed, magentaGreen, shift, empty] : cases) {
         SCOPED_TRACE(std::to_string(blueRed) + " " + std::to_string(magentaGreen));
         SettingsEffectShiftUV record;

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -36,7 +37,12 @@ TEST(FndException, VirtualBasesAndCallStack)
     } catch (const Proc::SettingsException& e) {
         const std::string* thrown = boost::get_error_info<ErrorInfoCallStack>(e);
         ASSERT_NE(thrown, nullptr);
-        EXPECT_NE(thrown->substr(0, thrown->find('\n')).find("libZorvanSettings"), std::string::npos) << *thrown;
+        // The first frame past GetCallStack's own (which an unoptimised build keeps) is the library's.
+        std::istringstream frames(*thrown);
+        std::string frame;
+        while (std::getline(frames, frame) && frame.find("GetCallStack") != std::string::npos) {
+        }
+        EXPECT_NE(frame.find("libZorvanSettings"), std::string::npos) << *thrown;
     }
 }
 
