@@ -69,6 +69,13 @@ expect "show: an equalizer band with a negative frequency" 1 'error: SettingsExc
 expect_member "show: the band list is kept; the intensity read before it stays" fields \
   '"fields": {"multiband": [{"frequency": 100,"gain": 2.5}],"intensity": 0.5}'
 
+run show SettingsEffectColorBlender 'blendMode=ScReEn:alpha=255:intensity=0.2'
+expect_member "show: a blend mode in any letter case; alpha wins over intensity" fields \
+  '"fields": {"x": 0,"y": 0,"intensity": 1.0,"blendMode": 7,"baseColor": null},'
+
+run show SettingsEffectColorBlender 'blendMode=screeen'
+expect "show: an unknown blend mode" 1 'error: EffectException: Unknown blend mode: screeen'
+
 run list
 expect "list" 0 ""
 if [ "$(wc -l <<<"$out")" -ne 220 ] ||
