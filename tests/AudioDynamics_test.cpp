@@ -13,97 +13,25 @@
 #include "Proc/Settings/SettingsAudioCompressor.h"
 #include "Proc/Settings/SettingsAudioGate.h"
 #include "Proc/Settings/SettingsAudioNoiseGate.h"
-#include "TestSupport.h"
-#include "catalog/SettingsCatalog.h"
+#include "RecordSupport.h"
 
 using namespace Zorvan::Proc;
 using Compressor = SettingsAudioCompressor;
 using Gate = SettingsAudioGate;
 using NoiseGate = SettingsAudioNoiseGate;
 using Json = nlohmann::ordered_json;
+using ZorvanTest::Bounds;
+using ZorvanTest::CheckBounds;
+using ZorvanTest::CheckParses;
+using ZorvanTest::Fields;
+using ZorvanTest::Outcome;
+using ZorvanTest::Parse;
+using ZorvanTest::Written;
 
 namespace {
 
 const std::string kBadArgument = typeid(std::invalid_argument).name();
 const char* const kIntensity = "Intensity should be in range from 0.f to 1.f";
-
-// "" when the call returns, else the exact class thrown, with the library's own description.
-std::string Outcome(const std::function<void()>& call)
-{
-    try {
-        call();
-        return "";
-    } catch (const EffectException&) {
-        return "EffectException: " + ZorvanTest::FormADescription<EffectException>([] { throw; });
-    } catch (const SettingsException&) {
-        return "SettingsException: " + ZorvanTest::FormADescription<SettingsException>([] { throw; });
-    } catch (const std::exception& e) {
-        return typeid(e).name();
-    }
-}
-
-Json Fields(const Settings& record)
-{
-    const auto* entry = Zorvan::SettingsCatalog::Find(record.GetClassId());
-    return entry ? entry->FieldsToJson(record) : Json("no catalogue entry");
-}
-
-// Inclusive bounds, the setter's and its key's; a refusal keeps the field, a not-a-number passes.
-template <class R>
-struct Bounds {
-    const char* key;
-    void (R::*set)(float);
-    float (R::*get)() const;
-    float low, high;
-    const char* message;
-};
-
-template <class R>
-void CheckBounds(const std::vector<Bounds<R>>& rows)
-{
-    for (const auto& row : rows) {
-        const std::string refused = std::string("EffectException: ") + row.message;
-        R record;
-        (record.*row.set)(row.low);
-        (record.*row.set)(row.high);
-        const float held = (record.*row.get)();
-        EXPECT_EQ(Outcome([&] { (record.*row.set)(std::nextafter(row.low, row.low - 1)); }), refused) << row.key;
-        EXPECT_EQ(Outcome([&] { (record.*row.set)(std::nextafter(row.high, row.high + 1)); }), refused) << row.key;
-        EXPECT_EQ(Outcome([&] { record.Deserialize(row.key + ("=" + std::to_string(row.high + 1))); }), refused);
-        EXPECT_EQ((record.*row.get)(), held) << row.key;
-        (record.*row.set)(std::numeric_limits<float>::quiet_NaN());
-        EXPECT_TRUE(std::isnan((record.*row.get)())) << row.key;
-    }
-}
-
-// Options applied to a copy of `start`: how the call ends and, as a JSON merge patch, what changed.
-using Parse = std::array<std::string, 3>;
-
-template <class R>
-void CheckParses(const R& start, const std::vector<Parse>& rows)
-{
-    for (const auto& [options, outcome, changed] : rows) {
-        R record = start;
-        EXPECT_EQ(Outcome([&] { record.Deserialize(options); }), outcome) << options;
-        Json expected = Fields(start);
-        expected.merge_patch(Json::parse(changed));
-        EXPECT_EQ(Fields(record), expected) << options;
-    }
-    EXPECT_EQ(Fields(*start.Clone()), Fields(start)); // a clone keeps every field
-}
-
-// What operator<< writes, then how it failed; it hands back the stream it was given.
-template <class E>
-std::string Written(std::initializer_list<int> values)
-{
-    std::ostringstream stream;
-    const std::string failure = Outcome([&] {
-        for (const int value : values) {
-            EXPECT_EQ(&(stream << static_cast<E>(value)), &stream);
-        }
-    });
-    return stream.str() + failure;
-}
 
 } // namespace
 

@@ -11,12 +11,14 @@
 
 #include "Proc/Settings/SettingsAudioReverb.h"
 #include "Proc/Settings/SettingsAudioReverberationImpulseResponse.h"
-#include "TestSupport.h"
-#include "catalog/SettingsCatalog.h"
+#include "RecordSupport.h"
 
 using namespace Zorvan::Proc;
 using Ir = SettingsAudioReverberationImpulseResponse;
 using Json = nlohmann::ordered_json;
+using ZorvanTest::CheckParses;
+using ZorvanTest::Fields;
+using ZorvanTest::Parse;
 
 namespace {
 
@@ -41,28 +43,6 @@ std::string Outcome(const std::function<void()>& call)
     } catch (const std::exception& e) {
         return typeid(e).name();
     }
-}
-
-Json Fields(const Settings& record)
-{
-    const auto* entry = Zorvan::SettingsCatalog::Find(record.GetClassId());
-    return entry ? entry->FieldsToJson(record) : Json("no catalogue entry");
-}
-
-// Options applied to a copy of `start`: how the call ends and, as a JSON merge patch, what changed.
-using Parse = std::array<std::string, 3>;
-
-template <class R>
-void CheckParses(const R& start, const std::vector<Parse>& rows)
-{
-    for (const auto& [options, outcome, changed] : rows) {
-        R record = start;
-        EXPECT_EQ(Outcome([&] { record.Deserialize(options); }), outcome) << options;
-        Json expected = Fields(start);
-        expected.merge_patch(Json::parse(changed));
-        EXPECT_EQ(Fields(record), expected) << options;
-    }
-    EXPECT_EQ(Fields(*start.Clone()), Fields(start)); // a clone keeps every field
 }
 
 template <class E>
@@ -93,12 +73,14 @@ TEST(Reverberation, Options)
     SettingsAudioReverb reverb;
     reverb.SetIntensity(0.5F);
     // One key, by std::stof, through the setter: 0 to 1, inclusive.
-    CheckParses(reverb, {
-                            {"intensity=1:INTENSITY=0.75", "", R"({"intensity":1})"},
-                            {"intensity=0,75:other=1", "", R"({"intensity":0})"},
-                            {"intensity=1.0000001", "EffectException: Invalid intensity!", "{}"},
-                            {"intensity=-0.0000001", "EffectException: Invalid intensity!", "{}"},
-                        });
+    CheckParses(reverb,
+                {
+                    {"intensity=1:INTENSITY=0.75", "", R"({"intensity":1})"},
+                    {"intensity=0,75:other=1", "", R"({"intensity":0})"},
+                    {"intensity=1.0000001", "EffectException: Invalid intensity!", "{}"},
+                    {"intensity=-0.0000001", "EffectException: Invalid intensity!", "{}"},
+                },
+                Outcome);
     // A not-a-number compares outside nothing and passes every check that bounds a value.
     reverb.SetIntensity(std::nanf(""));
     Ir record;
@@ -166,7 +148,7 @@ TEST(Reverberation, Options)
     for (const char* bad : {"W", "P", "B", "White", "PINK", "0", "red", "wh", "\"brown \""}) {
         rows.push_back({std::string("noise_color=") + bad, kNoiseColor, "{}"});
     }
-    CheckParses(Start(), rows);
+    CheckParses(Start(), rows, Outcome);
 }
 
 TEST(Reverberation, StreamTextsAndComparison)

@@ -12,22 +12,12 @@
 
 #include "Proc/Settings/SettingsEffectColorBlender.h"
 #include "Proc/Settings/SettingsEffectColorMixExchange.h"
-#include "TestSupport.h"
-#include "catalog/SettingsCatalog.h"
+#include "RecordSupport.h"
 
 using namespace Zorvan::Proc;
+using ZorvanTest::Values;
 
 namespace {
-
-// The record's fields in field order.
-std::string Values(const Settings& s)
-{
-    nlohmann::ordered_json values = nlohmann::ordered_json::array();
-    for (const auto& value : Zorvan::SettingsCatalog::Find(s.GetClassId())->FieldsToJson(s)) {
-        values.push_back(value);
-    }
-    return values.dump();
-}
 
 enum class Fails { No, Invalid, Effect, Number };
 

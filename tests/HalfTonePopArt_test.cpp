@@ -12,29 +12,17 @@
 
 #include "Proc/Settings/SettingsEffectHalfTone.h"
 #include "Proc/Settings/SettingsEffectPopArt.h"
-#include "catalog/SettingsCatalog.h"
+#include "RecordSupport.h"
 
 using namespace Zorvan::Proc;
+using ZorvanTest::CheckValues;
+using ZorvanTest::Fails;
+using ZorvanTest::Make;
+using ZorvanTest::Opts;
+using ZorvanTest::Read;
+using ZorvanTest::Values;
 
 namespace {
-
-std::unique_ptr<Settings> Make(const std::string& id, const std::string& options)
-{
-    auto record = Zorvan::SettingsCatalog::Find(id)->create();
-    record->Deserialize(options);
-    return record;
-}
-
-std::string Values(const Settings& s)
-{
-    nlohmann::ordered_json values = nlohmann::ordered_json::array();
-    for (const auto& value : Zorvan::SettingsCatalog::Find(s.GetClassId())->FieldsToJson(s)) {
-        values.push_back(value);
-    }
-    return values.dump();
-}
-
-enum class Fails { No, Invalid, Range };
 
 const char* const kHalfTone = "$$EffectHalfTone$$";
 const char* const kPopArt = "EffectPopArt";
@@ -84,18 +72,9 @@ TEST(HalfTonePopArt, KeysConversionsAndOrder)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::string(c.id) + " " + c.options);
-        const auto record = Make(c.id, c.before);
-        if (c.fails == No) {
-            record->Deserialize(c.options);
-        } else if (c.fails == Invalid) {
-            EXPECT_THROW(record->Deserialize(c.options), std::invalid_argument);
-        } else {
-            EXPECT_THROW(record->Deserialize(c.options), std::out_of_range);
-        }
-        EXPECT_EQ(Values(*record), c.values);
-        const auto copy = record->Clone();
-        EXPECT_EQ(typeid(*copy), typeid(*record));
-        EXPECT_EQ(Values(*copy), c.values);
+        const auto record = Make(c.id, {Opts(c.before)});
+        Read(*record, c.options, c.fails);
+        CheckValues(*record, c.values);
     }
 }
 
@@ -154,7 +133,7 @@ TEST(HalfTonePopArt, Comparison)
     for (const auto& c : cases) {
         for (const std::string& change : c.changes) {
             SCOPED_TRACE(change);
-            const auto a = Make(c.id, c.base);
+            const auto a = Make(c.id, {Opts(c.base)});
             const auto b = a->Clone();
             EXPECT_TRUE(a->IsEqualTo(*b));
             b->Deserialize(change);

@@ -9,22 +9,15 @@
 
 #include "Proc/Settings/SettingsEffectBlurGaussian.h"
 #include "Proc/Settings/SettingsEffectVignetteFilter.h"
-#include "catalog/SettingsCatalog.h"
+#include "RecordSupport.h"
 
 using namespace Zorvan::Proc;
+using ZorvanTest::CheckValues;
+using ZorvanTest::Fails;
+using ZorvanTest::Read;
+using ZorvanTest::Values;
 
 namespace {
-
-std::string Values(const Settings& s)
-{
-    nlohmann::ordered_json values = nlohmann::ordered_json::array();
-    for (const auto& value : Zorvan::SettingsCatalog::Find(s.GetClassId())->FieldsToJson(s)) {
-        values.push_back(value);
-    }
-    return values.dump();
-}
-
-enum class Fails { No, Invalid, Range };
 
 const std::string kFilled = "form=1:smooth=2:aspect=3:r=1:g=2:b=3:a=4:x0=0.25:y0=0.75:ri=0.125:re=0.875:intensity=0.5";
 const char* const kFilledValues = "[1,2,3,67305985,0.25,0.75,0.125,0.875,0.5]";
@@ -62,17 +55,8 @@ TEST(VignetteFilter, KeysConversionsAndOrder)
         SCOPED_TRACE(c.options);
         SettingsEffectVignetteFilter vignette;
         vignette.Deserialize(c.before);
-        if (c.fails == No) {
-            vignette.Deserialize(c.options);
-        } else if (c.fails == Invalid) {
-            EXPECT_THROW(vignette.Deserialize(c.options), std::invalid_argument);
-        } else {
-            EXPECT_THROW(vignette.Deserialize(c.options), std::out_of_range);
-        }
-        EXPECT_EQ(Values(vignette), c.values);
-        const auto copy = vignette.Clone();
-        EXPECT_EQ(typeid(*copy), typeid(vignette));
-        EXPECT_EQ(Values(*copy), c.values);
+        Read(vignette, c.options, c.fails);
+        CheckValues(vignette, c.values);
     }
 }
 
