@@ -20,11 +20,11 @@
 using namespace Zorvan::Proc;
 using ZorvanTest::Call;
 using ZorvanTest::Change;
-using ZorvanTest::CheckValues;
+using ZorvanTest::CheckKeyCases;
 using ZorvanTest::Fails;
+using ZorvanTest::KeyCase;
 using ZorvanTest::Make;
 using ZorvanTest::Opts;
-using ZorvanTest::Read;
 using ZorvanTest::Values;
 
 namespace {
@@ -45,13 +45,7 @@ const char* const kCamValues = "[1.0,2.0,0.25]";
 TEST(ShakeGlitchTilt, KeysConversionsAndOrder)
 {
     using enum Fails;
-    const struct {
-        const char* id;
-        std::string before;
-        std::string options;
-        Fails fails;
-        const char* values;
-    } cases[] = {
+    const std::vector<KeyCase> cases = {
         {kShake, "", "shiftx=-2.5:shifty=3:rotate=45:freq=0.5:persistence=0.75:intensity=0.1", No,
          "[-2.5,3.0,45.0,0.5,0.75,0.10000000149011612]"},
         {kShake, "", "intensity=1:persistence=-:freq=4:rotate=3:shifty=2:shiftx=1", Invalid,
@@ -75,13 +69,7 @@ TEST(ShakeGlitchTilt, KeysConversionsAndOrder)
          "[[-1.0,-2.0,-3.0],[4.0,5.0,6.0],0.0,0.0]"},
         {kTilt, kLines, "blurness=9:smoothness=\"1\"", Invalid, "[[1.0,2.0,3.0],[4.0,5.0,6.0],0.0,0.0]"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.id) + " " + c.options);
-        const auto record = Make(c.id);
-        record->Deserialize(c.before);
-        Read(*record, c.options, c.fails);
-        CheckValues(*record, c.values);
-    }
+    CheckKeyCases(cases);
 }
 
 // The checks hold for parsed values too, and a refused value leaves its field.

@@ -15,11 +15,11 @@
 #include "RecordSupport.h"
 
 using namespace Zorvan::Proc;
-using ZorvanTest::CheckValues;
+using ZorvanTest::CheckKeyCases;
 using ZorvanTest::Fails;
+using ZorvanTest::KeyCase;
 using ZorvanTest::Make;
 using ZorvanTest::Opts;
-using ZorvanTest::Read;
 using ZorvanTest::Values;
 
 namespace {
@@ -38,13 +38,7 @@ const std::string kPop =
 TEST(HalfTonePopArt, KeysConversionsAndOrder)
 {
     using enum Fails;
-    const struct {
-        const char* id;
-        std::string before;
-        std::string options;
-        Fails fails;
-        const char* values;
-    } cases[] = {
+    const std::vector<KeyCase> cases = {
         {kHalfTone, "", "rbg=1:gbg=2:bbg=3:rdot=255:gdot=254:bdot=253:colorsize=1.5:threshold=0.25:dotsize=4:angle=45",
          No, "[197121,16645887,1.5,0.25,4.0,45]"},
         // Ints cut to eight bits: 0x01FF00 and 0x00FF02.
@@ -70,12 +64,7 @@ TEST(HalfTonePopArt, KeysConversionsAndOrder)
         {kPopArt, kPop, "invert=0:nv=\"5\":hue=3:saturation=2", Invalid, "[2.0,3.0,0.125,2.0,4,2,3,true,0.75,6]"},
         {kPopArt, kPop, "levels=99999999999:offset=1", Range, "[0.5,0.25,1.0,2.0,4,2,3,true,0.75,6]"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.id) + " " + c.options);
-        const auto record = Make(c.id, {Opts(c.before)});
-        Read(*record, c.options, c.fails);
-        CheckValues(*record, c.values);
-    }
+    CheckKeyCases(cases);
 }
 
 TEST(HalfTonePopArt, SettersWithSeveralArguments)

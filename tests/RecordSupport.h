@@ -164,4 +164,30 @@ inline void CheckValues(const Zorvan::Proc::Settings& record, const std::string&
     EXPECT_EQ(Values(*copy), values);
 }
 
+// One row of a key table: a record of class `id` filled with `before`, then `options` read,
+// ending as `fails` says, or, with `message`, failing in the typed reader with that text.
+struct KeyCase {
+    const char* id;
+    std::string before;
+    std::string options;
+    Fails fails;
+    const char* values;
+    const char* message = nullptr;
+};
+
+inline void CheckKeyCases(const std::vector<KeyCase>& cases)
+{
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string(c.id) + " " + c.options);
+        const auto record = Make(c.id, {Opts(c.before)});
+        if (c.message != nullptr) {
+            EXPECT_EQ(FormBDescription<std::invalid_argument>([&] { record->Deserialize(c.options); }, false),
+                      c.message);
+        } else {
+            Read(*record, c.options, c.fails);
+        }
+        CheckValues(*record, c.values);
+    }
+}
+
 } // namespace ZorvanTest

@@ -33,11 +33,12 @@
 using namespace Zorvan::Proc;
 using ZorvanTest::Call;
 using ZorvanTest::Change;
+using ZorvanTest::CheckKeyCases;
 using ZorvanTest::CheckValues;
 using ZorvanTest::Fails;
+using ZorvanTest::KeyCase;
 using ZorvanTest::Make;
 using ZorvanTest::Opts;
-using ZorvanTest::Read;
 using ZorvanTest::Values;
 
 namespace {
@@ -63,14 +64,7 @@ const char* const kLamp = "r=1:g=2:b=3:intensity=0.5";
 TEST(SimpleStylising, KeysConversionsAndOrder)
 {
     using enum Fails;
-    const struct {
-        const char* id;
-        std::string before;
-        std::string options;
-        Fails fails;
-        const char* values;
-        const char* message = nullptr; // of a failure of the lamp's typed reader
-    } cases[] = {
+    const std::vector<KeyCase> cases = {
         {"$$EffectMotionBlur$$", "", "SCALE=1.2.3", No, "[1.2]"},
         {"$$EffectMotionBlur$$", "scale=4.5", "scale=-", Invalid, "[4.5]"},
         {"$$EffectDiffuse$$", "", "level=0.1:probability=0.2:intensity=0.1", No, "[0.1,0.2,0.10000000149011612]"},
@@ -133,18 +127,7 @@ TEST(SimpleStylising, KeysConversionsAndOrder)
         {kRetro, "", "intensity=1:rollerTrack=-:scratches=5:grain=4:vignetting=1:shake=1", Invalid,
          "[true,true,4,5,0,0.0]"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::string(c.id) + " " + c.options);
-        const auto record = Make(c.id, {Opts(c.before)});
-        if (c.message != nullptr) {
-            EXPECT_EQ(
-                ZorvanTest::FormBDescription<std::invalid_argument>([&] { record->Deserialize(c.options); }, false),
-                c.message);
-        } else {
-            Read(*record, c.options, c.fails);
-        }
-        CheckValues(*record, c.values);
-    }
+    CheckKeyCases(cases);
 }
 
 // Emptiness, and setters that clamp or take their arguments in an unusual order; every record
