@@ -55,8 +55,7 @@ const std::set<std::string> kNotLandedYet{
     "SettingsTransitionSnake", "SettingsTransitionSpin", "SettingsTransitionSpiral", "SettingsTransitionTemplateZES",
     "SettingsTransitionThroughColor", "SettingsTransitionTwist", "SettingsTransitionWaterbrush",
     "SettingsTransitionWhipe", "SettingsTransitionWhoosh", "SettingsTransitionWipe", "SettingsTransitionWithEffects",
-    "SettingsTransitionZoomBlur", "SettingsTransitionZoom", "SettingsColorSpaceConverter", "SettingsDeinterlace",
-    "SettingsVideoDecoder",
+    "SettingsTransitionZoomBlur", "SettingsTransitionZoom",
 };
 // clang-format on
 
