@@ -67,5 +67,6 @@ void AddFieldsDenoise(FieldMap& fields);
 void AddFieldsColorBlending(FieldMap& fields);
 void AddFieldsChannelMixing(FieldMap& fields);
 void AddFieldsImageEditor(FieldMap& fields);
+void AddFieldsGeometryEffects(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

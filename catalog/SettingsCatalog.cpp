@@ -315,6 +315,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsColorBlending(fields);
     CatalogDetail::AddFieldsChannelMixing(fields);
     CatalogDetail::AddFieldsImageEditor(fields);
+    CatalogDetail::AddFieldsGeometryEffects(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);

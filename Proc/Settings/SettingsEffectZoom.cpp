@@ -16,4 +16,20 @@ std::unique_ptr<Settings> SettingsEffectZoom::Clone() const
     return std::make_unique<SettingsEffectZoom>(*this);
 }
 
+void SettingsEffectZoom::SetInOut(double in, double out)
+{
+    this->in = in;
+    this->out = out;
+}
+
+double SettingsEffectZoom::GetIn() const
+{
+    return in;
+}
+
+double SettingsEffectZoom::GetOut() const
+{
+    return out;
+}
+
 } // namespace Zorvan::Proc
