@@ -25,25 +25,9 @@ namespace {
 // record. Each family removes its classes when it lands; the list shrinks to empty.
 // clang-format off
 const std::set<std::string> kNotLandedYet{
-   
-    "SettingsEffect360Cylindrical",
-    "SettingsEffectAim",
-    "SettingsEffectBorder",
-   
-   
-    "SettingsEffectCrop",
-   
-    "SettingsEffectDisplacementMap", "SettingsEffectFillBlurredBackground", "SettingsEffectFlip",
-    "SettingsEffectFlyingObjects",
-   
-    "SettingsEffectHumanMatting", "SettingsEffectImageBlender",
-    "SettingsEffectMask", "SettingsEffectPad",
-   
-    "SettingsEffectTemplateZES",
-    "SettingsEffectTransform",
-   
-    "SettingsTransitionBarnDoor", "SettingsTransitionBlur",
-    "SettingsTransitionCircle", "SettingsTransitionCross", "SettingsTransitionCrossfade",
+    "SettingsEffectAim", "SettingsEffectDisplacementMap", "SettingsEffectFlyingObjects", "SettingsEffectHumanMatting",
+    "SettingsEffectImageBlender", "SettingsEffectMask", "SettingsEffectTemplateZES", "SettingsTransitionBarnDoor",
+    "SettingsTransitionBlur", "SettingsTransitionCircle", "SettingsTransitionCross", "SettingsTransitionCrossfade",
     "SettingsTransitionDisintegrate", "SettingsTransitionFlash", "SettingsTransitionGlitch",
     "SettingsTransitionKenBurns", "SettingsTransitionLens", "SettingsTransitionMatrix",
     "SettingsTransitionModifiedMotionSpin", "SettingsTransitionMotionSpin", "SettingsTransitionOrigamiFlips",

@@ -76,6 +76,14 @@ expect_member "show: a blend mode in any letter case; alpha wins over intensity"
 run show SettingsEffectColorBlender 'blendMode=screeen'
 expect "show: an unknown blend mode" 1 'error: EffectException: Unknown blend mode: screeen'
 
+run show SettingsEffectPad 'r=255:left=8' 'gapx=4'
+expect_member "show: a pad string without colour keys makes the colour opaque black again" fields \
+  '"fields": {"mode": 0,"crop": {"bottom": 0,"left": 8,"right": 0,"top": 0},"color": 4278190080,"gapX": 4,"gapY": 0},'
+
+run show SettingsEffectBorder ''
+expect "show: a border has no option string, not even an empty one" 1 \
+  'error: SettingsException: Not implemented fill from string for settings CLASS_ID = EFFECT_BORDER'
+
 run list
 expect "list" 0 ""
 if [ "$(wc -l <<<"$out")" -ne 220 ] ||
