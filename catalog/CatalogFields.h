@@ -68,5 +68,6 @@ void AddFieldsColorBlending(FieldMap& fields);
 void AddFieldsChannelMixing(FieldMap& fields);
 void AddFieldsImageEditor(FieldMap& fields);
 void AddFieldsGeometryEffects(FieldMap& fields);
+void AddFieldsTemplates(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

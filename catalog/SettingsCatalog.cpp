@@ -316,6 +316,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsChannelMixing(fields);
     CatalogDetail::AddFieldsImageEditor(fields);
     CatalogDetail::AddFieldsGeometryEffects(fields);
+    CatalogDetail::AddFieldsTemplates(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
