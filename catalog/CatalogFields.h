@@ -69,5 +69,6 @@ void AddFieldsChannelMixing(FieldMap& fields);
 void AddFieldsImageEditor(FieldMap& fields);
 void AddFieldsGeometryEffects(FieldMap& fields);
 void AddFieldsTemplates(FieldMap& fields);
+void AddFieldsSlice(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -317,6 +317,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsImageEditor(fields);
     CatalogDetail::AddFieldsGeometryEffects(fields);
     CatalogDetail::AddFieldsTemplates(fields);
+    CatalogDetail::AddFieldsSlice(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
