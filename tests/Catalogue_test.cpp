@@ -25,8 +25,7 @@ namespace {
 // record. Each family removes its classes when it lands; the list shrinks to empty.
 // clang-format off
 const std::set<std::string> kNotLandedYet{
-    "SettingsEffectAim", "SettingsEffectDisplacementMap", "SettingsEffectFlyingObjects", "SettingsEffectHumanMatting",
-    "SettingsEffectImageBlender", "SettingsEffectMask", "SettingsEffectTemplateZES", "SettingsTransitionBarnDoor",
+    "SettingsEffectFlyingObjects", "SettingsEffectImageBlender", "SettingsEffectMask", "SettingsTransitionBarnDoor",
     "SettingsTransitionBlur", "SettingsTransitionCircle", "SettingsTransitionCross", "SettingsTransitionCrossfade",
     "SettingsTransitionDisintegrate", "SettingsTransitionFlash", "SettingsTransitionGlitch",
     "SettingsTransitionKenBurns", "SettingsTransitionLens", "SettingsTransitionMatrix",
@@ -35,11 +34,10 @@ const std::set<std::string> kNotLandedYet{
     "SettingsTransitionPinwheel", "SettingsTransitionPixels", "SettingsTransitionPush", "SettingsTransitionPuzzle",
     "SettingsTransitionRadial", "SettingsTransitionRageZoom", "SettingsTransitionRippleSmooth",
     "SettingsTransitionRipple", "SettingsTransitionRoll", "SettingsTransitionScale", "SettingsTransitionShatter",
-    "SettingsTransitionSlice", "SettingsTransitionSlide", "SettingsTransitionSlidingDoor", "SettingsTransitionSmear",
-    "SettingsTransitionSnake", "SettingsTransitionSpin", "SettingsTransitionSpiral", "SettingsTransitionTemplateZES",
-    "SettingsTransitionThroughColor", "SettingsTransitionTwist", "SettingsTransitionWaterbrush",
-    "SettingsTransitionWhipe", "SettingsTransitionWhoosh", "SettingsTransitionWipe", "SettingsTransitionWithEffects",
-    "SettingsTransitionZoomBlur", "SettingsTransitionZoom",
+    "SettingsTransitionSlide", "SettingsTransitionSlidingDoor", "SettingsTransitionSmear", "SettingsTransitionSnake",
+    "SettingsTransitionSpin", "SettingsTransitionSpiral", "SettingsTransitionThroughColor", "SettingsTransitionTwist",
+    "SettingsTransitionWaterbrush", "SettingsTransitionWhipe", "SettingsTransitionWhoosh", "SettingsTransitionWipe",
+    "SettingsTransitionWithEffects", "SettingsTransitionZoomBlur", "SettingsTransitionZoom",
 };
 // clang-format on
 
