@@ -70,5 +70,6 @@ void AddFieldsImageEditor(FieldMap& fields);
 void AddFieldsGeometryEffects(FieldMap& fields);
 void AddFieldsTemplates(FieldMap& fields);
 void AddFieldsSlice(FieldMap& fields);
+void AddFieldsMotionTransitions(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

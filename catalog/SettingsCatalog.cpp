@@ -318,6 +318,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsGeometryEffects(fields);
     CatalogDetail::AddFieldsTemplates(fields);
     CatalogDetail::AddFieldsSlice(fields);
+    CatalogDetail::AddFieldsMotionTransitions(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
