@@ -71,5 +71,6 @@ void AddFieldsGeometryEffects(FieldMap& fields);
 void AddFieldsTemplates(FieldMap& fields);
 void AddFieldsSlice(FieldMap& fields);
 void AddFieldsMotionTransitions(FieldMap& fields);
+void AddFieldsOverlays(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

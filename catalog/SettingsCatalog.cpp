@@ -319,6 +319,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsTemplates(fields);
     CatalogDetail::AddFieldsSlice(fields);
     CatalogDetail::AddFieldsMotionTransitions(fields);
+    CatalogDetail::AddFieldsOverlays(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
