@@ -25,19 +25,15 @@ namespace {
 // record. Each family removes its classes when it lands; the list shrinks to empty.
 // clang-format off
 const std::set<std::string> kNotLandedYet{
-    "SettingsEffectFlyingObjects", "SettingsEffectImageBlender", "SettingsEffectMask", "SettingsTransitionBarnDoor",
-    "SettingsTransitionBlur", "SettingsTransitionCircle", "SettingsTransitionCross", "SettingsTransitionCrossfade",
-    "SettingsTransitionDisintegrate", "SettingsTransitionFlash", "SettingsTransitionGlitch",
+    "SettingsTransitionBarnDoor", "SettingsTransitionBlur", "SettingsTransitionCircle", "SettingsTransitionCross",
+    "SettingsTransitionCrossfade", "SettingsTransitionDisintegrate", "SettingsTransitionFlash",
     "SettingsTransitionKenBurns", "SettingsTransitionLens", "SettingsTransitionMatrix",
-    "SettingsTransitionModifiedMotionSpin", "SettingsTransitionMotionSpin", "SettingsTransitionOrigamiFlips",
-    "SettingsTransitionOrigamiPleats", "SettingsTransitionPageturn", "SettingsTransitionParallax",
+    "SettingsTransitionOrigamiFlips", "SettingsTransitionOrigamiPleats", "SettingsTransitionPageturn",
     "SettingsTransitionPinwheel", "SettingsTransitionPixels", "SettingsTransitionPush", "SettingsTransitionPuzzle",
-    "SettingsTransitionRadial", "SettingsTransitionRageZoom", "SettingsTransitionRippleSmooth",
-    "SettingsTransitionRipple", "SettingsTransitionRoll", "SettingsTransitionScale", "SettingsTransitionShatter",
-    "SettingsTransitionSlide", "SettingsTransitionSlidingDoor", "SettingsTransitionSmear", "SettingsTransitionSnake",
-    "SettingsTransitionSpin", "SettingsTransitionSpiral", "SettingsTransitionThroughColor", "SettingsTransitionTwist",
-    "SettingsTransitionWaterbrush", "SettingsTransitionWhipe", "SettingsTransitionWhoosh", "SettingsTransitionWipe",
-    "SettingsTransitionWithEffects", "SettingsTransitionZoomBlur", "SettingsTransitionZoom",
+    "SettingsTransitionRadial", "SettingsTransitionRippleSmooth", "SettingsTransitionRipple", "SettingsTransitionRoll",
+    "SettingsTransitionScale", "SettingsTransitionShatter", "SettingsTransitionSlide", "SettingsTransitionSlidingDoor",
+    "SettingsTransitionSmear", "SettingsTransitionSnake", "SettingsTransitionSpin", "SettingsTransitionSpiral",
+    "SettingsTransitionTwist", "SettingsTransitionWaterbrush", "SettingsTransitionWipe", "SettingsTransitionZoom",
 };
 // clang-format on
 
