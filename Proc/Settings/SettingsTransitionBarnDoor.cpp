@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionBarnDoor.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionBarnDoor::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionBarnDoor::Clone() const
 {
     return std::make_unique<SettingsTransitionBarnDoor>(*this);
+}
+
+void SettingsTransitionBarnDoor::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"direction", direction});
 }
 
 } // namespace Zorvan::Proc

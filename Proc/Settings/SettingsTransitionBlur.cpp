@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionBlur.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionBlur::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionBlur::Clone() const
 {
     return std::make_unique<SettingsTransitionBlur>(*this);
+}
+
+void SettingsTransitionBlur::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"direction", direction});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionCircle.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionCircle::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionCircle::Clone() const
 {
     return std::make_unique<SettingsTransitionCircle>(*this);
+}
+
+void SettingsTransitionCircle::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"direction", direction});
 }
 
 } // namespace Zorvan::Proc

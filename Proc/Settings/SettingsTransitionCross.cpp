@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionCross.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/MapForm.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,17 @@ const std::string& SettingsTransitionCross::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionCross::Clone() const
 {
     return std::make_unique<SettingsTransitionCross>(*this);
+}
+
+void SettingsTransitionCross::Deserialize(const std::string& options)
+{
+    if (options.empty()) {
+        return;
+    }
+    const auto map = GetOptionsMap(options, {"cross"});
+    if (const auto value = MapForm::Find<int>(map, "cross")) {
+        cross = *value > 0; // greater than 0, not non-zero: saved projects read as they always have
+    }
 }
 
 } // namespace Zorvan::Proc

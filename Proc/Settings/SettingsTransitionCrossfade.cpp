@@ -16,4 +16,7 @@ std::unique_ptr<Settings> SettingsTransitionCrossfade::Clone() const
     return std::make_unique<SettingsTransitionCrossfade>(*this);
 }
 
+// No options: whatever the string holds changes nothing and never fails.
+void SettingsTransitionCrossfade::Deserialize(const std::string& /*options*/) {}
+
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionDisintegrate.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionDisintegrate::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionDisintegrate::Clone() const
 {
     return std::make_unique<SettingsTransitionDisintegrate>(*this);
+}
+
+void SettingsTransitionDisintegrate::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"n", num});
 }
 
 } // namespace Zorvan::Proc

@@ -16,4 +16,7 @@ std::unique_ptr<Settings> SettingsTransitionFlash::Clone() const
     return std::make_unique<SettingsTransitionFlash>(*this);
 }
 
+// No options: whatever the string holds changes nothing and never fails.
+void SettingsTransitionFlash::Deserialize(const std::string& /*options*/) {}
+
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionLens.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionLens::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionLens::Clone() const
 {
     return std::make_unique<SettingsTransitionLens>(*this);
+}
+
+void SettingsTransitionLens::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

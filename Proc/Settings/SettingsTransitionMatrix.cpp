@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionMatrix.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionMatrix::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionMatrix::Clone() const
 {
     return std::make_unique<SettingsTransitionMatrix>(*this);
+}
+
+void SettingsTransitionMatrix::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"blocks", blockCount}, IntegerKey{"smoothness", smoothness});
 }
 
 } // namespace Zorvan::Proc

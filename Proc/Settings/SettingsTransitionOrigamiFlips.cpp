@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionOrigamiFlips.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionOrigamiFlips::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionOrigamiFlips::Clone() const
 {
     return std::make_unique<SettingsTransitionOrigamiFlips>(*this);
+}
+
+void SettingsTransitionOrigamiFlips::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"n", num});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionPageturn.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionPageturn::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionPageturn::Clone() const
 {
     return std::make_unique<SettingsTransitionPageturn>(*this);
+}
+
+void SettingsTransitionPageturn::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type}, IntegerKey{"direction", dir});
 }
 
 } // namespace Zorvan::Proc

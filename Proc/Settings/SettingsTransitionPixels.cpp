@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionPixels.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionPixels::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionPixels::Clone() const
 {
     return std::make_unique<SettingsTransitionPixels>(*this);
+}
+
+void SettingsTransitionPixels::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

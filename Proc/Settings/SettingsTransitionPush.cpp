@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionPush.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionPush::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionPush::Clone() const
 {
     return std::make_unique<SettingsTransitionPush>(*this);
+}
+
+void SettingsTransitionPush::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"direction", dir});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionPuzzle.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionPuzzle::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionPuzzle::Clone() const
 {
     return std::make_unique<SettingsTransitionPuzzle>(*this);
+}
+
+void SettingsTransitionPuzzle::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionRadial.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionRadial::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionRadial::Clone() const
 {
     return std::make_unique<SettingsTransitionRadial>(*this);
+}
+
+void SettingsTransitionRadial::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"direction", direction});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionRippleSmooth.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionRippleSmooth::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionRippleSmooth::Clone() const
 {
     return std::make_unique<SettingsTransitionRippleSmooth>(*this);
+}
+
+void SettingsTransitionRippleSmooth::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"freq", freq}, IntegerKey{"ampl", ampl});
 }
 
 } // namespace Zorvan::Proc

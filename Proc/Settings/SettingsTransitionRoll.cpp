@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionRoll.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionRoll::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionRoll::Clone() const
 {
     return std::make_unique<SettingsTransitionRoll>(*this);
+}
+
+void SettingsTransitionRoll::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"size", size}, IntegerKey{"direction", dir}, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

@@ -1,14 +1,36 @@
 #pragma once
+#include <cstdint>
+
 #include "Proc/Settings/Settings.h"
 
 namespace Zorvan::Proc {
 
+// The first clip rolls away. Keeps the base IsEqualTo (it throws) and IsEmpty (never empty).
 class ZORVAN_SETTINGS_EXPORT SettingsTransitionRoll : public Settings {
 public:
+    // The renderer gives the numbers their meaning; any number is stored as given.
+    enum class Direction : std::int32_t {};
+    enum class Type : std::int32_t {};
+
     static const std::string CLASS_ID;
 
     const std::string& GetClassId() const override;
     std::unique_ptr<Settings> Clone() const override;
+    // Keys "size", "direction", "type", in this order, each a whole number stored unchecked.
+    void Deserialize(const std::string& options) override;
+
+    void SetSize(unsigned int value) { size = value; }
+    void SetDir(Direction value) { dir = value; }
+    void SetType(Type value) { type = value; }
+    unsigned int GetSize() const { return size; }
+    Direction GetDir() const { return dir; }
+    Type GetType() const { return type; }
+
+private:
+    // No defaults are fixed for this transition: 0 throughout.
+    std::uint32_t size = 0U;
+    Direction dir{};
+    Type type{};
 };
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionScale.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionScale::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionScale::Clone() const
 {
     return std::make_unique<SettingsTransitionScale>(*this);
+}
+
+void SettingsTransitionScale::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionShatter.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionShatter::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionShatter::Clone() const
 {
     return std::make_unique<SettingsTransitionShatter>(*this);
+}
+
+void SettingsTransitionShatter::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"n", num}, IntegerKey{"direction", dir});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionSlide.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionSlide::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionSlide::Clone() const
 {
     return std::make_unique<SettingsTransitionSlide>(*this);
+}
+
+void SettingsTransitionSlide::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"direction", direction});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionSlidingDoor.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionSlidingDoor::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionSlidingDoor::Clone() const
 {
     return std::make_unique<SettingsTransitionSlidingDoor>(*this);
+}
+
+void SettingsTransitionSlidingDoor::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"direction", direction});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionSnake.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionSnake::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionSnake::Clone() const
 {
     return std::make_unique<SettingsTransitionSnake>(*this);
+}
+
+void SettingsTransitionSnake::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"thickness", thickness}, IntegerKey{"smoothness", smoothness});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionSpin.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionSpin::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionSpin::Clone() const
 {
     return std::make_unique<SettingsTransitionSpin>(*this);
+}
+
+void SettingsTransitionSpin::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

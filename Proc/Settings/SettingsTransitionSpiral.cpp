@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionSpiral.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionSpiral::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionSpiral::Clone() const
 {
     return std::make_unique<SettingsTransitionSpiral>(*this);
+}
+
+void SettingsTransitionSpiral::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

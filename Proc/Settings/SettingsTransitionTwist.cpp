@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionTwist.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionTwist::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionTwist::Clone() const
 {
     return std::make_unique<SettingsTransitionTwist>(*this);
+}
+
+void SettingsTransitionTwist::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionWaterbrush.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,12 @@ const std::string& SettingsTransitionWaterbrush::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionWaterbrush::Clone() const
 {
     return std::make_unique<SettingsTransitionWaterbrush>(*this);
+}
+
+void SettingsTransitionWaterbrush::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"angle", angle}, IntegerKey{"size", size}, IntegerKey{"rough", rough},
+                    IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc

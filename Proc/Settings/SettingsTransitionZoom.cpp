@@ -1,6 +1,7 @@
 #include "Proc/Settings/SettingsTransitionZoom.h"
 
 #include "Proc/Settings/InitOrder.h"
+#include "Proc/Settings/IntegerKeys.h"
 
 namespace Zorvan::Proc {
 
@@ -14,6 +15,11 @@ const std::string& SettingsTransitionZoom::GetClassId() const
 std::unique_ptr<Settings> SettingsTransitionZoom::Clone() const
 {
     return std::make_unique<SettingsTransitionZoom>(*this);
+}
+
+void SettingsTransitionZoom::Deserialize(const std::string& options)
+{
+    ReadIntegerKeys(options, IntegerKey{"type", type});
 }
 
 } // namespace Zorvan::Proc
