@@ -72,5 +72,6 @@ void AddFieldsTemplates(FieldMap& fields);
 void AddFieldsSlice(FieldMap& fields);
 void AddFieldsMotionTransitions(FieldMap& fields);
 void AddFieldsOverlays(FieldMap& fields);
+void AddFieldsTransitions(FieldMap& fields);
 
 } // namespace Zorvan::CatalogDetail

@@ -320,6 +320,7 @@ std::vector<SettingsCatalogEntry> BuildEntries()
     CatalogDetail::AddFieldsSlice(fields);
     CatalogDetail::AddFieldsMotionTransitions(fields);
     CatalogDetail::AddFieldsOverlays(fields);
+    CatalogDetail::AddFieldsTransitions(fields);
     for (auto& entry : entries) {
         if (auto found = fields.find(entry.className); found != fields.end()) {
             entry.fields = std::move(found->second);
