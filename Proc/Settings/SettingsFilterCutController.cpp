@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -43,6 +44,184 @@ avTime CountedEnd(avTime end, avTime sourceDuration)
     return end == SettingsFilterCutController::OPEN_END ? sourceDuration : end;
 }
 
+using Interval = SettingsFilterCutController::Interval;
+using Intervals = std::deque<Interval>;
+
+// Gives every interval from the given position on the deleted time before it. The intervals from
+// settledFrom on are unchanged, so once one of them already holds the right time, so do the rest:
+// a cut that leaves the deleted total as it was costs nothing beyond its own stretches.
+void RecountDeletedBefore(Intervals& list, std::size_t from, std::size_t settledFrom)
+{
+    avTime deletedBefore = 0;
+    if (from > 0) {
+        const Interval& previous = list[from - 1];
+        deletedBefore = previous.deletedBefore;
+        if (previous.deleted) {
+            deletedBefore = WrapAdd(deletedBefore, WrapSub(previous.end, previous.begin));
+        }
+    }
+    for (std::size_t position = from; position < list.size(); ++position) {
+        Interval& interval = list[position];
+        if (position >= settledFrom && interval.deletedBefore == deletedBefore) {
+            return;
+        }
+        interval.deletedBefore = deletedBefore;
+        if (interval.deleted) {
+            deletedBefore = WrapAdd(deletedBefore, WrapSub(interval.end, interval.begin));
+        }
+    }
+}
+
+// True when a rebuild would give the list back unchanged: gap-free, non-empty stretches of
+// alternating kind with the deleted time before each, and none so short and so far below zero
+// that its midpoint rounds up onto its end (there the next stretch would decide its kind).
+bool RebuildsToItself(const Intervals& list)
+{
+    if (list.empty()) {
+        return false;
+    }
+    avTime deletedBefore = 0;
+    const Interval* previous = nullptr;
+    for (const Interval& interval : list) {
+        if (interval.begin >= interval.end || Midpoint(interval.begin, interval.end) == interval.end ||
+            interval.deletedBefore != deletedBefore ||
+            (previous && (previous->end != interval.begin || previous->deleted == interval.deleted))) {
+            return false;
+        }
+        if (interval.deleted) {
+            deletedBefore = WrapAdd(deletedBefore, WrapSub(interval.end, interval.begin));
+        }
+        previous = &interval;
+    }
+    return true;
+}
+
+// The full rebuild. Every begin and end becomes a point; between two neighbouring points the
+// interval added last that holds their midpoint gives the kind, and stretches no interval covers
+// stay kept; like neighbours merge. Each interval's points bound a run of stretches, and the
+// intervals paint their runs from the last added back, each stretch once (a union-find skips the
+// stretches already painted), so that the whole costs a sort rather than a scan per stretch.
+void Rebuild(Intervals& list)
+{
+    std::vector<avTime> points;
+    points.reserve(list.size() * 2);
+    for (const Interval& interval : list) {
+        points.push_back(interval.begin);
+        points.push_back(interval.end);
+    }
+    std::sort(points.begin(), points.end());
+    points.erase(std::unique(points.begin(), points.end()), points.end());
+
+    const std::size_t stretches = points.empty() ? 0 : points.size() - 1;
+    std::vector<signed char> kind(stretches, -1); // -1: no interval covers the stretch
+    std::vector<std::size_t> unpainted(stretches + 1);
+    std::iota(unpainted.begin(), unpainted.end(), std::size_t{0});
+    const auto nextUnpainted = [&unpainted](std::size_t stretch) {
+        std::size_t root = stretch;
+        while (unpainted[root] != root) {
+            root = unpainted[root];
+        }
+        while (unpainted[stretch] != root) {
+            stretch = std::exchange(unpainted[stretch], root);
+        }
+        return root;
+    };
+    const auto position = [&points](avTime time) {
+        return static_cast<std::size_t>(std::lower_bound(points.begin(), points.end(), time) - points.begin());
+    };
+    for (auto interval = list.rbegin(); interval != list.rend(); ++interval) {
+        if (interval->begin >= interval->end) {
+            continue;
+        }
+        const std::size_t last = position(interval->end);
+        for (std::size_t stretch = nextUnpainted(position(interval->begin)); stretch < last;
+             stretch = nextUnpainted(stretch)) {
+            kind[stretch] = interval->deleted ? 1 : 0;
+            unpainted[stretch] = stretch + 1;
+        }
+    }
+
+    Intervals rebuilt;
+    for (std::size_t stretch = 0; stretch < stretches; ++stretch) {
+        // A stretch one long below zero has its midpoint rounded up onto its end: the next
+        // stretch, if any, decides its kind.
+        const bool roundsUp = Midpoint(points[stretch], points[stretch + 1]) == points[stretch + 1];
+        const std::size_t holder = roundsUp ? stretch + 1 : stretch;
+        const bool deleted = holder < stretches && kind[holder] == 1;
+        if (!rebuilt.empty() && rebuilt.back().deleted == deleted) {
+            rebuilt.back().end = points[stretch + 1];
+        } else {
+            // Appended as lvalues here and below, for the reason AddInterval gives.
+            const Interval interval{points[stretch], points[stretch + 1], 0, deleted};
+            rebuilt.push_back(interval);
+        }
+    }
+    RecountDeletedBefore(rebuilt, 0, rebuilt.size());
+    list.swap(rebuilt);
+}
+
+// AddInterval on a list that rebuilds to itself, with every time at or after zero: the rebuild
+// would change only the stretches the new interval overlaps and, where its times lie beyond the
+// list, add kept stretches out to them. So those are rewritten in place, together with one
+// untouched interval on each side so that the new stretches merge with their neighbours, and the
+// deleted time before is recounted from there on. An interval that ends before it begins covers
+// nothing, but its times still count as points.
+void AddToRebuiltList(Intervals& list, avTime begin, avTime end, bool deleted)
+{
+    const avTime low = std::min(begin, end);
+    const avTime high = std::max(begin, end);
+    const auto touchedFrom =
+        std::partition_point(list.begin(), list.end(), [low](const Interval& interval) { return interval.end <= low; });
+    const auto untouchedFrom = std::partition_point(touchedFrom, list.end(),
+                                                    [high](const Interval& interval) { return interval.begin < high; });
+    const auto first = touchedFrom == list.begin() ? touchedFrom : std::prev(touchedFrom);
+    const auto last = untouchedFrom == list.end() ? untouchedFrom : std::next(untouchedFrom);
+
+    std::vector<Interval> stretches;
+    const auto append = [&stretches](avTime from, avTime to, bool kind) {
+        if (from >= to) {
+            return;
+        }
+        if (!stretches.empty() && stretches.back().deleted == kind) {
+            stretches.back().end = to;
+            return;
+        }
+        const Interval stretch{from, to, 0, kind};
+        stretches.push_back(stretch);
+    };
+    const auto overlay = [&](avTime from, avTime to, bool kind) {
+        if (begin >= end) {
+            append(from, to, kind);
+            return;
+        }
+        append(from, std::min(to, begin), kind);
+        append(std::max(from, begin), std::min(to, end), deleted);
+        append(std::max(from, end), to, kind);
+    };
+    const avTime listBegin = list.front().begin;
+    const avTime listEnd = list.back().end;
+    if (low < listBegin) {
+        overlay(low, listBegin, false);
+    }
+    for (auto interval = first; interval != last; ++interval) {
+        overlay(interval->begin, interval->end, interval->deleted);
+    }
+    if (high > listEnd) {
+        overlay(listEnd, high, false);
+    }
+
+    const auto from = static_cast<std::size_t>(first - list.begin());
+    const auto replaced = static_cast<std::size_t>(last - first);
+    const std::size_t common = std::min(replaced, stretches.size());
+    std::copy_n(stretches.begin(), common, first);
+    if (stretches.size() < replaced) {
+        list.erase(first + static_cast<std::ptrdiff_t>(common), last);
+    } else {
+        list.insert(last, stretches.begin() + static_cast<std::ptrdiff_t>(common), stretches.end());
+    }
+    RecountDeletedBefore(list, from, from + stretches.size());
+}
+
 } // namespace
 
 const std::string SettingsFilterCutController::CLASS_ID ZORVAN_INIT_STRINGS = "$$FILTER_CUT_CONTROLLER$$";
@@ -79,6 +258,12 @@ bool SettingsFilterCutController::operator==(const SettingsFilterCutController& 
 
 void SettingsFilterCutController::AddInterval(avTime begin, avTime end, avTime deletedBefore, bool deleted)
 {
+    if (IsOptimised() && intervals.front().begin >= 0 && std::min(begin, end) >= 0) {
+        AddToRebuiltList(intervals, begin, end, deleted);
+        index = -1;
+        RememberOptimisedShape();
+        return;
+    }
     // Appended as an lvalue: the rvalue push_back instantiates deque::emplace_back, whose
     // demangled name begins with Interval& and would pass the library's version script.
     const Interval interval{begin, end, deletedBefore, deleted};
@@ -90,50 +275,22 @@ void SettingsFilterCutController::UpdateOptimizedList()
 {
     // The interval found last is forgotten.
     index = -1;
-
-    // Every begin and end becomes a point.
-    std::vector<PointInfo> points;
-    points.reserve(intervals.size() * 2);
-    for (const Interval& interval : intervals) {
-        points.push_back(PointInfo{interval.begin, false});
-        points.push_back(PointInfo{interval.end, false});
+    if (!RebuildsToItself(intervals)) {
+        Rebuild(intervals);
     }
+    RememberOptimisedShape();
+}
 
-    // Sorted by time, duplicates removed.
-    std::sort(points.begin(), points.end(), [](const PointInfo& a, const PointInfo& b) { return a.time < b.time; });
-    points.erase(std::unique(points.begin(), points.end(),
-                             [](const PointInfo& a, const PointInfo& b) { return a.time == b.time; }),
-                 points.end());
+bool SettingsFilterCutController::IsOptimised() const
+{
+    return optimised.count != 0 && intervals.size() == optimised.count && intervals.front() == optimised.front &&
+           intervals.back() == optimised.back;
+}
 
-    // The interval added last has the last word; uncovered stretches stay kept.
-    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-        const avTime middle = Midpoint(points[i].time, points[i + 1].time);
-        for (auto interval = intervals.rbegin(); interval != intervals.rend(); ++interval) {
-            if (TimeInInterval(middle, *interval)) {
-                points[i].flag = interval->deleted;
-                break;
-            }
-        }
-    }
-
-    // Runs of like flags merge among all points but the last, which stays at the end.
-    if (!points.empty()) {
-        const auto last = std::unique(points.begin(), points.end() - 1,
-                                      [](const PointInfo& a, const PointInfo& b) { return a.flag == b.flag; });
-        *last = points.back();
-        points.erase(last + 1, points.end());
-    }
-
-    // The list rebuilt from the points, each interval with the deleted time before it.
-    intervals.clear();
-    avTime deletedBefore = 0;
-    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
-        const Interval interval{points[i].time, points[i + 1].time, deletedBefore, points[i].flag};
-        intervals.push_back(interval);
-        if (interval.deleted) {
-            deletedBefore = WrapAdd(deletedBefore, WrapSub(interval.end, interval.begin));
-        }
-    }
+void SettingsFilterCutController::RememberOptimisedShape()
+{
+    optimised =
+        intervals.empty() ? OptimisedShape{} : OptimisedShape{intervals.size(), intervals.front(), intervals.back()};
 }
 
 const SettingsFilterCutController::Interval& SettingsFilterCutController::GetOptInterval(std::size_t position) const
@@ -220,6 +377,16 @@ int SettingsFilterCutController::GetIntervalIndex(avTime time) const
         TimeInInterval(time, intervals[static_cast<std::size_t>(index)])) {
         return index;
     }
+    if (IsOptimised()) {
+        // Sorted and disjoint: only the last interval that begins at or before the time can hold it.
+        const auto after = std::upper_bound(intervals.begin(), intervals.end(), time,
+                                            [](avTime t, const Interval& interval) { return t < interval.begin; });
+        if (after != intervals.begin() && TimeInInterval(time, *std::prev(after))) {
+            index = static_cast<int>(after - intervals.begin() - 1);
+            return index;
+        }
+        ThrowLogicError("Can't find interval in SettingsFilterCutController");
+    }
     for (std::size_t i = 0; i < intervals.size(); ++i) {
         if (TimeInInterval(time, intervals[i])) {
             index = static_cast<int>(i);
@@ -244,6 +411,27 @@ avTime SettingsFilterCutController::Result2Source(avTime time) const
     }
     if (intervals.size() == 1 && !intervals.front().deleted) {
         return time;
+    }
+    if (IsOptimised()) {
+        // An interval starts in the result at its begin minus the deleted time before it. Counted
+        // from the first interval in unsigned arithmetic these offsets never fall (a deleted one
+        // shares its offset with the kept one after it), and the kept stretches tile the result
+        // without overlap even where the times wrap around: the last interval at or before the
+        // offset of the time is the only one that can hold it.
+        const avTime origin = WrapSub(intervals.front().begin, intervals.front().deletedBefore);
+        const auto offset = [origin](const Interval& interval) {
+            return static_cast<std::uint64_t>(WrapSub(WrapSub(interval.begin, interval.deletedBefore), origin));
+        };
+        const auto wanted = static_cast<std::uint64_t>(WrapSub(time, origin));
+        // The first offset is 0, so the search never stops at the front.
+        const Interval& found = *std::prev(
+            std::upper_bound(intervals.begin(), intervals.end(), wanted,
+                             [&offset](std::uint64_t w, const Interval& interval) { return w < offset(interval); }));
+        const auto length = static_cast<std::uint64_t>(WrapSub(found.end, found.begin));
+        if (!found.deleted && wanted - offset(found) < length) {
+            return WrapAdd(found.deletedBefore, time);
+        }
+        return NO_TIME;
     }
     for (const Interval& interval : intervals) {
         if (interval.deleted) {

@@ -70,10 +70,26 @@ public:
 
 protected:
     // Protected, not private: a derived class (the tests) may build lists that the public
-    // operations cannot reach, such as an empty one.
+    // operations cannot reach, such as an empty one. One that rewrites intervals in place, keeping
+    // their count and the first and last of them, calls UpdateOptimizedList before anything else.
     std::deque<Interval> intervals;
     // The index of the interval found last, a cache for the next lookup; const lookups write it.
     mutable int index = -1;
+
+private:
+    // The count and the two ends of the list as the last rebuild left it (count 0: no such list).
+    // While the list still matches, it is taken to be that sorted, gap-free partition: lookups
+    // search it by halves and AddInterval rewrites only the stretches a new interval touches, so
+    // that cut lists of automatic editing, thousands of cuts long, stay cheap to build and to read.
+    struct OptimisedShape {
+        std::size_t count = 0;
+        Interval front;
+        Interval back;
+    };
+    OptimisedShape optimised;
+
+    bool IsOptimised() const;
+    void RememberOptimisedShape();
 };
 
 // Begin is at most the time and the time is below end.
