@@ -14,18 +14,16 @@ namespace Zorvan::CatalogDetail {
 
 namespace {
 
-// A nested record as the catalogue lists its class's fields; null for none (or a class the
-// catalogue does not know).
-nlohmann::json NestedFields(const std::shared_ptr<Proc::Settings>& record)
+// A nested record as its class identifier and the fields the catalogue lists for its class, so
+// that records without fields (a flash, a wipe) still tell which transition they are; null for none.
+nlohmann::json NestedRecord(const std::shared_ptr<Proc::Settings>& record)
 {
     if (!record) {
         return nullptr;
     }
     const SettingsCatalogEntry* entry = SettingsCatalog::Find(record->GetClassId());
-    if (entry == nullptr) {
-        return nullptr;
-    }
-    return nlohmann::json(entry->FieldsToJson(*record));
+    return {{"id", record->GetClassId()},
+            {"fields", entry != nullptr ? nlohmann::json(entry->FieldsToJson(*record)) : nlohmann::json()}};
 }
 
 } // namespace
@@ -105,12 +103,12 @@ void AddFieldsMotionTransitions(FieldMap& fields)
                                                  [](const SettingsTransitionWithEffects& c) {
                                                      nlohmann::json list = nlohmann::json::array();
                                                      for (const auto& effect : c.GetEffects()) {
-                                                         list.push_back(NestedFields(effect));
+                                                         list.push_back(NestedRecord(effect));
                                                      }
                                                      return list;
                                                  }),
         FieldJson<SettingsTransitionWithEffects>(
-            "transition", [](const SettingsTransitionWithEffects& c) { return NestedFields(c.GetTransition()); }),
+            "transition", [](const SettingsTransitionWithEffects& c) { return NestedRecord(c.GetTransition()); }),
         Field<SettingsTransitionWithEffects>("transitionFilling", &SettingsTransitionWithEffects::GetTransitionFilling),
         Field<SettingsTransitionWithEffects>("powerScale", &SettingsTransitionWithEffects::GetPowerScale),
         Field<SettingsTransitionWithEffects>("intensityMultiplier",

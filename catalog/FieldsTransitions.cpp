@@ -1,3 +1,6 @@
+#include <stdexcept>
+#include <string>
+
 #include "Proc/Settings/SettingsTransitionBarnDoor.h"
 #include "Proc/Settings/SettingsTransitionBlur.h"
 #include "Proc/Settings/SettingsTransitionCircle.h"
@@ -38,11 +41,26 @@ void OneField(FieldMap& fields, const char* className, const char* name, Getter 
     fields[className] = {Field<C>(name, getter)};
 }
 
+// A field that the record computes from a stored number, which may lie outside the table the
+// computation knows: the record is still shown, with the computation's refusal in place of a value.
+template <class C, class Getter>
+SettingsCatalogField Computed(std::string name, Getter getter)
+{
+    return {std::move(name), [getter](const Proc::Settings& record) -> nlohmann::json {
+                try {
+                    return ToJsonValue(std::invoke(getter, dynamic_cast<const C&>(record)));
+                } catch (const std::logic_error& failure) {
+                    const std::string text = failure.what();
+                    return {{"error", text.substr(0, text.find('\n'))}};
+                }
+            }};
+}
+
 } // namespace
 
 // Flash, Crossfade and Smear have no readable field, Matrix, Snake and Wipe only setters: the
 // catalogue lists nothing for them. OrigamiPleats' dir and KenBurns' direction are listed as their
-// getters compute them, which fail for a stored number outside the directions.
+// getters compute them; a stored number outside the directions shows the getter's refusal.
 void AddFieldsTransitions(FieldMap& fields)
 {
     using namespace Proc;
@@ -76,7 +94,7 @@ void AddFieldsTransitions(FieldMap& fields)
     using Pleats = SettingsTransitionOrigamiPleats;
     fields["SettingsTransitionOrigamiPleats"] = {
         Field<Pleats>("num", &Pleats::GetNum),
-        Field<Pleats>("dir", &Pleats::GetDir),
+        Computed<Pleats>("dir", &Pleats::GetDir),
     };
     using Pageturn = SettingsTransitionPageturn;
     fields["SettingsTransitionPageturn"] = {
@@ -120,7 +138,7 @@ void AddFieldsTransitions(FieldMap& fields)
     };
     using KenBurns = SettingsTransitionKenBurns;
     fields["SettingsTransitionKenBurns"] = {
-        Field<KenBurns>("direction", &KenBurns::GetDirection),
+        Computed<KenBurns>("direction", &KenBurns::GetDirection),
         Field<KenBurns>("fade", &KenBurns::GetFade),
         Field<KenBurns>("zoom", &KenBurns::GetZoom),
     };

@@ -173,11 +173,18 @@ TEST(MotionTransitions, Equality)
 
 namespace {
 
+// A nested record as the catalogue shows it: its class identifier and its fields.
+std::string Nested(const std::string& id, const std::string& fields)
+{
+    return R"({"fields":)" + fields + R"(,"id":")" + id + "\"}";
+}
+
 const std::string kWhipe =
-    R"({"blurBoostPower":3.0,"hDirection":1,"maxBlurScale":0.3,"motionBoostPower":3.0,"vDirection":0})";
-const std::string kMpeg = R"({"intensity":1.0,"privateParameters":[false,false,false]})";
-const std::string kCam =
-    R"({"constDistortion":0.15000000596046448,"intensity":1.0,"randDistortion":1.399999976158142})";
+    Nested("TransitionWhipe",
+           R"({"blurBoostPower":3.0,"hDirection":1,"maxBlurScale":0.3,"motionBoostPower":3.0,"vDirection":0})");
+const std::string kMpeg = Nested("EffectGlitchMpeg", R"({"intensity":1.0,"privateParameters":[false,false,false]})");
+const std::string kCam = Nested("EffectGlitchSecurityCam", R"({"constDistortion":0.15000000596046448,"intensity":1.0,)"
+                                                           R"("randDistortion":1.399999976158142})");
 
 // The fields of a composition: name, effects, transition and the three scalars.
 std::string Composition(const std::string& effects, const std::string& transition, const char* scalars = "1.0,1.0,1.0")
@@ -198,9 +205,17 @@ TEST(TransitionWithEffects, OptionStringsBuildTheNestedRecords)
         {R"(transition="TransitionWhipe=max_blur=1:horizontal_direction=-1":effect7="EffectGlitchMpeg=intensity=0.25")"
          R"(:effect10="EffectGlitchMpeg")",
          "",
-         Composition(
-             R"({"intensity":0.25,"privateParameters":[false,false,false]})",
-             R"({"blurBoostPower":3.0,"hDirection":-1,"maxBlurScale":1.0,"motionBoostPower":3.0,"vDirection":0})")},
+         Composition(Nested("EffectGlitchMpeg", R"({"intensity":0.25,"privateParameters":[false,false,false]})"),
+                     Nested("TransitionWhipe", R"({"blurBoostPower":3.0,"hDirection":-1,"maxBlurScale":1.0,)"
+                                               R"("motionBoostPower":3.0,"vDirection":0})"))},
+        // Each name of the closed list builds its own class, with or without a nested string.
+        {R"(transition="$$TransitionZoom$$=type=2")", "",
+         Composition("", Nested("$$TransitionZoom$$", R"({"type":2})"))},
+        {R"(transition="$$EffectWipe$$=direction=1")", "", Composition("", Nested("$$EffectWipe$$", "{}"))},
+        {R"(transition="TransitionFlash=anything")", "", Composition("", Nested("TransitionFlash", "{}"))},
+        {R"(transition="$$TransitionCrossfade$$")", "", Composition("", Nested("$$TransitionCrossfade$$", "{}"))},
+        {R"(transition="TransitionCrossfade")",
+         "SettingsException: Invalid transition for deserializing: 'TransitionCrossfade'", Composition("", "null")},
         {R"(effect9="EffectGlitchSecurityCam":effect0="EffectGlitchMpeg=")", "",
          Composition(kMpeg + "," + kCam, "null")},
         // Unquoted, a name is no value at all.

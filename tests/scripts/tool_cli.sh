@@ -84,6 +84,22 @@ run show SettingsEffectBorder ''
 expect "show: a border has no option string, not even an empty one" 1 \
   'error: SettingsException: Not implemented fill from string for settings CLASS_ID = EFFECT_BORDER'
 
+run show SettingsTransitionKenBurns 'zoom=20' 'fade=-1'
+expect "show: a Ken Burns fade below zero" 1 'error: std::logic_error: Incorrect value passed'
+expect_member "show: the zoom read before it stays" fields \
+  '"fields": {"direction": [-1.0,-1.0,1.0,-1.0,1.0,1.0,-1.0,1.0],"fade": 0.0,"zoom": 0.20000000298023224}'
+
+run show SettingsTransitionOrigamiPleats 'n=3:direction=2'
+expect "show: a pleats direction that only its getter refuses" 0 "" \
+  '{"id": "$$TransitionOrigamiPleats$$","class": "SettingsTransitionOrigamiPleats","fields": {"num": 3,"dir": {'\
+'"error": "Incorrect value passed, use enumerated value"}},"isEmpty": false}'
+
+run show SettingsTransitionWithEffects 'transition="$$TransitionZoom$$=type=2":effect1="EffectGlitchMpeg=intensity=0.5"'
+expect_member "show: a composition's transition and effects as nested records" fields \
+  '"fields": {"name": "","effects": [{"fields": {"intensity": 0.5,"privateParameters": [false,false,false]},'\
+'"id": "EffectGlitchMpeg"}],"transition": {"fields": {"type": 2},"id": "$$TransitionZoom$$"},'\
+'"transitionFilling": 1.0,"powerScale": 1.0,"intensityMultiplier": 1.0},'
+
 run list
 expect "list" 0 ""
 if [ "$(wc -l <<<"$out")" -ne 220 ] ||
