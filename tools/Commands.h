@@ -20,5 +20,8 @@ Subcommand AddCutCommand(CLI::App& app);
 Subcommand AddTraceCommand(CLI::App& app);
 // frame WxH[:NUM/DEN] --matrix m0,...,m8 [--even] (FrameCommand.cpp)
 Subcommand AddFrameCommand(CLI::App& app);
+// describe CLASS | --all [--json] | --schema [CLASS]; validate CLASS OPTIONS [--json] (DescribeCommand.cpp)
+Subcommand AddDescribeCommand(CLI::App& app);
+Subcommand AddValidateCommand(CLI::App& app);
 
 } // namespace ZorvanTool

@@ -6,6 +6,8 @@
 //   cut --interval B,E,deleted|kept ... [--source-duration D] [--map T ...]   a cut list
 //   trace FILE.json          a speech-to-text result read from JSON, printed by Result::Trace
 //   frame WxH[:NUM/DEN] --matrix m0,...,m8 [--even]   a frame's size under a 2D transform
+//   describe CLASS | --all [--json] | --schema [CLASS]   what a class reads from its option string
+//   validate CLASS OPTIONS [--json]   how the class would read an option string, key by key
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -176,7 +178,9 @@ int main(int argc, char** argv)
                "  zorvan-settings resize '1920x1080:size_mode=Custom:custom_mode=LetterBox' --input 1440x1080\n"
                "  zorvan-settings cut --interval 1000000,2000000,kept --source-duration 5000000 --map 1500000\n"
                "  zorvan-settings trace result.json\n"
-               "  zorvan-settings frame 1920x1080 --matrix 2,0,0,0,1,0,0,0,1 --even");
+               "  zorvan-settings frame 1920x1080 --matrix 2,0,0,0,1,0,0,0,1 --even\n"
+               "  zorvan-settings describe SettingsEffectBlurGaussian\n"
+               "  zorvan-settings validate SettingsEffectBlurGaussian 'sacle=2.5'");
 
     bool listJson = false;
     CLI::App* list = app.add_subcommand(
@@ -202,6 +206,8 @@ int main(int argc, char** argv)
     const ZorvanTool::Subcommand cut = ZorvanTool::AddCutCommand(app);
     const ZorvanTool::Subcommand trace = ZorvanTool::AddTraceCommand(app);
     const ZorvanTool::Subcommand frame = ZorvanTool::AddFrameCommand(app);
+    const ZorvanTool::Subcommand describe = ZorvanTool::AddDescribeCommand(app);
+    const ZorvanTool::Subcommand validate = ZorvanTool::AddValidateCommand(app);
 
     CLI11_PARSE(app, argc, argv);
 
@@ -212,7 +218,7 @@ int main(int argc, char** argv)
         if (*show) {
             return Show(showId, showOptions);
         }
-        for (const auto* command : {&resize, &cut, &trace, &frame}) {
+        for (const auto* command : {&resize, &cut, &trace, &frame, &describe, &validate}) {
             if (command->command->parsed()) {
                 return command->run();
             }
