@@ -29,6 +29,8 @@ Registry BuildRegistry()
 {
     DescribeDetail::DescriptionMap described;
     DescribeDetail::DescribeStylising(described);
+    DescribeDetail::DescribeResizer(described);
+    DescribeDetail::DescribeAudioDynamics(described);
 
     Registry registry;
     for (const auto& entry : SettingsCatalog::Entries()) {
@@ -227,6 +229,12 @@ Json KeySchema(const OptionKey& key)
     if (key.outside != OptionOutside::Unbounded) {
         about += std::string("; outside the range: ") + OutsideName(key.outside);
     }
+    if (!key.needs.empty()) {
+        about += "; read only with " + key.needs;
+    }
+    if (key.floor) {
+        about += "; a smaller accepted value is stored as " + SettingsDescriptions::NumberText(*key.floor, "double");
+    }
     if (!key.note.empty()) {
         about += "; " + key.note;
     }
@@ -256,6 +264,11 @@ std::size_t Distance(std::string_view a, std::string_view b)
         }
     }
     return d[a.size()][b.size()];
+}
+
+std::string Unquoted(const std::string& text)
+{
+    return text.size() >= 2 && text.front() == '"' && text.back() == '"' ? text.substr(1, text.size() - 2) : text;
 }
 
 bool SameKey(std::string_view a, std::string_view b)
@@ -311,6 +324,9 @@ Json SettingsDescriptions::ToJson(const SettingsCatalogEntry& entry, const Optio
             item[key.exclusiveMaximum ? "exclusiveMaximum" : "maximum"] = *key.maximum;
         }
         item["outside"] = OutsideName(key.outside);
+        if (key.floor) {
+            item["floor"] = *key.floor;
+        }
         if (key.outside == OptionOutside::Throws) {
             item["failure"] = FailureJson(key.failure);
         }
@@ -331,6 +347,9 @@ Json SettingsDescriptions::ToJson(const SettingsCatalogEntry& entry, const Optio
             item["nested"] = key.nestedClass;
         }
         item["default"] = key.defaultValue;
+        if (!key.needs.empty()) {
+            item["needs"] = key.needs;
+        }
         if (!key.with.empty()) {
             item["with"] = key.with;
         }
@@ -612,6 +631,18 @@ std::vector<OptionOutcome> SettingsDescriptions::Validate(const SettingsCatalogE
                     fields = {group.field};
                 }
             }
+        }
+        if (outcome.status == "applied" && !key->needs.empty()) {
+            static const std::regex pair(R"(([^=:]+)=([^:]*))");
+            for (auto it = std::sregex_iterator(key->needs.begin(), key->needs.end(), pair);
+                 it != std::sregex_iterator(); ++it) {
+                const Occurrence* found = firstOf((*it)[1].str());
+                if (found == nullptr || !SameKey(Unquoted(found->value), (*it)[2].str())) {
+                    outcome.status = "not read";
+                    outcome.detail = "read only with " + key->needs;
+                }
+            }
+            toApply = key->needs + ":" + toApply;
         }
         if (outcome.status != "applied") {
             outcomes.push_back(outcome);

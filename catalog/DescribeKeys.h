@@ -46,6 +46,11 @@ struct Key : OptionKey {
         failure = {std::move(exceptionClass), std::move(text)};
         return *this;
     }
+    Key& Floor(double lowest)
+    {
+        floor = lowest;
+        return *this;
+    }
     Key& Clamps()
     {
         outside = OptionOutside::Clamps;
@@ -59,6 +64,11 @@ struct Key : OptionKey {
     Key& Unchecked()
     {
         outside = OptionOutside::Unchecked;
+        return *this;
+    }
+    Key& Needs(std::string keys)
+    {
+        needs = std::move(keys);
         return *this;
     }
     Key& With(std::string keys)
@@ -157,5 +167,7 @@ inline OptionDescription IgnoresItsString(std::string className, std::string not
 }
 
 void DescribeStylising(DescriptionMap& descriptions);
+void DescribeResizer(DescriptionMap& descriptions);
+void DescribeAudioDynamics(DescriptionMap& descriptions);
 
 } // namespace Zorvan::DescribeDetail

@@ -81,12 +81,14 @@ struct OptionKey {
     bool exclusiveMinimum = false;
     bool exclusiveMaximum = false;
     OptionOutside outside = OptionOutside::Unbounded;
+    std::optional<double> floor;           // an accepted value below it is stored as it
     OptionFailure failure;                 // when outside is Throws
     std::vector<OptionSpelling> spellings; // of an enumeration, in number order
     OptionFailure unknownSpelling;         // a spelling not in the table
     int channel = -1;                      // ColorChannel: byte of the packed colour, 0 red .. 3 alpha
     std::string nestedClass;               // Nested: the class whose option string the value is
     nlohmann::json defaultValue;           // of the first field, in the catalogue's JSON
+    std::string needs;                     // keys without which the key is not read, e.g. "size_mode=Custom"
     std::string with;                      // keys a value needs beside it to show, e.g. "intensity=1"
     std::string example;                   // a value inside the range, where the plain choice will not do
     nlohmann::json exampleResult;          // the first field after `example`, where not the converted value
@@ -120,8 +122,8 @@ struct OptionDescription {
 struct OptionOutcome {
     std::string key;   // as written
     std::string value; // as written
-    // applied, clamped, ignored, out of range, refused, unreadable, unknown, repeated, excluded,
-    // incomplete
+    // applied, clamped, ignored, unchecked, out of range, refused, unreadable, unknown, repeated,
+    // excluded, incomplete, not read
     std::string status;
     nlohmann::ordered_json result; // applied, clamped, ignored: the fields it feeds afterwards
     OptionFailure failure;         // out of range, refused: what the record raises

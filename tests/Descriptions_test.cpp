@@ -29,13 +29,11 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsAnalyzerVideoTrackObjectOnnxRT",
     "SettingsAnalyzerVideoTrackObjectOpenCV",
     "SettingsAudioChorus",
-    "SettingsAudioCompressor",
     "SettingsAudioDistortion",
     "SettingsAudioEcho",
     "SettingsAudioEqualizer",
     "SettingsAudioFlanger",
     "SettingsAudioGate",
-    "SettingsAudioNoiseGate",
     "SettingsAudioNoiseSuppress",
     "SettingsAudioPitch",
     "SettingsAudioRadio",
@@ -144,7 +142,6 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsTransitionZoom",
     "SettingsColorSpaceConverter",
     "SettingsDeinterlace",
-    "SettingsResizer",
     "SettingsVideoDecoder",
 };
 
@@ -159,8 +156,16 @@ std::string Unquoted(const std::string& text)
     return text.size() >= 2 && text.front() == '"' && text.back() == '"' ? text.substr(1, text.size() - 2) : text;
 }
 
-// The value a key's text gives once the record has converted it.
+Json ConvertedAsRead(const OptionKey& key, const std::string& text);
+
+// The value a key's text gives once the record has converted and stored it.
 Json Converted(const OptionKey& key, const std::string& text)
+{
+    const Json value = ConvertedAsRead(key, text);
+    return key.floor && value.get<double>() < *key.floor ? Json(*key.floor) : value;
+}
+
+Json ConvertedAsRead(const OptionKey& key, const std::string& text)
 {
     switch (key.type) {
     case OptionValueType::Double:
@@ -208,11 +213,18 @@ std::string ExampleText(const OptionKey& key)
     const bool integral = key.cType != "double" && key.cType != "float";
     const double low = key.minimum.value_or(-1e9);
     const double high = key.maximum.value_or(1e9);
-    double value = integral ? 7 : 2.5;
-    if (value <= low || value >= high) {
-        value = key.minimum && key.maximum ? low + (high - low) / 2 : key.minimum ? low + value : high - value;
+    const auto inside = [&](double value) {
+        return (key.exclusiveMinimum ? value > low : value >= low) &&
+               (key.exclusiveMaximum ? value < high : value <= high);
+    };
+    for (const double candidate : {integral ? 7.0 : 2.5, low + (high - low) / 2, high, low}) {
+        const std::string text =
+            SettingsDescriptions::NumberText(integral ? std::floor(candidate) : candidate, key.cType);
+        if (inside(std::stod(text)) && Converted(key, text) != key.defaultValue) {
+            return text;
+        }
     }
-    return SettingsDescriptions::NumberText(integral ? std::floor(value) : value, key.cType);
+    return "1";
 }
 
 struct Reader {
@@ -246,10 +258,10 @@ struct Reader {
         }
         return Field(*record, field);
     }
-    OptionFailure Failure(const std::string& keys) const
+    OptionFailure Failure(const std::string& keys, bool withHead = true) const
     {
         try {
-            entry.create()->Deserialize(Options(keys));
+            entry.create()->Deserialize(withHead ? Options(keys) : keys);
         } catch (...) {
             return SettingsDescriptions::CurrentFailure();
         }
@@ -296,12 +308,22 @@ std::string Outside(const OptionKey& key, double bound, bool exclusive, double d
     return SettingsDescriptions::NumberText(bound + (direction > 0 ? 1 : -1), key.cType);
 }
 
+// The keys a key needs beside it to be read and to show.
+std::string Context(const OptionKey& key)
+{
+    std::string context;
+    for (const std::string* part : {&key.needs, &key.with}) {
+        context += part->empty() ? "" : *part + ":";
+    }
+    return context;
+}
+
 void CheckBound(const Reader& reader, const OptionKey& key, double bound, bool exclusive, double direction)
 {
-    const std::string prefix = key.with.empty() ? "" : key.with + ":";
+    const std::string prefix = Context(key);
     const std::string bad = Outside(key, bound, exclusive, direction);
     SCOPED_TRACE("value " + bad);
-    if (!exclusive && key.outside != OptionOutside::Throws) {
+    if (!exclusive && key.exampleResult.is_null()) {
         const std::string edge = SettingsDescriptions::NumberText(bound, key.cType);
         EXPECT_EQ(reader.Read(prefix + key.key + "=" + edge, key.fields.front()), Converted(key, edge));
     }
@@ -333,10 +355,16 @@ void CheckKey(const Reader& reader, const OptionKey& key)
 {
     const auto record = reader.entry.create();
     EXPECT_EQ(reader.Field(*record, key.fields.front()), key.defaultValue) << "default";
+    if (key.type == OptionValueType::SizeHead) {
+        const OptionFailure expected = SettingsDescriptions::Expand(key.failure, "", "640");
+        const OptionFailure actual = reader.Failure("640", false);
+        EXPECT_EQ(actual.exception, expected.exception) << "head 640";
+        EXPECT_EQ(actual.text, expected.text) << "head 640";
+    }
     if (key.type == OptionValueType::ColorChannel || key.type == OptionValueType::SizeHead) {
         return; // read as a group, or before any key
     }
-    const std::string prefix = key.with.empty() ? "" : key.with + ":";
+    const std::string prefix = Context(key);
     const std::string example = ExampleText(key);
     const Json expected = key.exampleResult.is_null() ? Converted(key, example) : key.exampleResult;
     EXPECT_NE(expected, key.defaultValue) << "the example " << example << " does not change the field";
@@ -417,7 +445,8 @@ void CheckOrder(const Reader& reader)
     }
     for (std::size_t broken = 0; broken < keys.size(); ++broken) {
         const OptionValueType type = keys[broken]->type;
-        if (!IsNumber(type) && type != OptionValueType::Boolean && type != OptionValueType::Enumeration) {
+        if (!Context(*keys[broken]).empty() ||
+            (!IsNumber(type) && type != OptionValueType::Boolean && type != OptionValueType::Enumeration)) {
             continue;
         }
         std::string all;
@@ -430,12 +459,20 @@ void CheckOrder(const Reader& reader)
         SCOPED_TRACE("unreadable " + keys[broken]->key + " in " + all);
         const auto record = reader.entry.create();
         EXPECT_ANY_THROW(record->Deserialize(reader.Options(all)));
-        for (std::size_t i = 0; i < keys.size(); ++i) {
+        // A key counts as read when a key read before the broken one feeds the same field; a colour
+        // shows once its last key has been read.
+        const auto shows = [&](std::size_t i) {
             const OptionGroup* colour = GroupOf(reader.description, keys[i]->key, OptionGroupKind::AllOrNothing);
-            if (!keys[i]->with.empty() || (colour != nullptr && colour->keys.back() != keys[i]->key)) {
+            return Context(*keys[i]).empty() && (colour == nullptr || colour->keys.back() == keys[i]->key);
+        };
+        for (std::size_t i = 0; i < keys.size(); ++i) {
+            if (!shows(i)) {
                 continue;
             }
-            const bool read = i < broken && (colour == nullptr || colour->keys.back() == keys[i]->key);
+            bool read = false;
+            for (std::size_t j = 0; j < broken; ++j) {
+                read = read || (shows(j) && keys[j]->fields.front() == keys[i]->fields.front());
+            }
             EXPECT_EQ(reader.Field(*record, keys[i]->fields.front()) != keys[i]->defaultValue, read) << keys[i]->key;
         }
     }

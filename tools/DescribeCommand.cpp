@@ -55,11 +55,7 @@ std::string TypeCell(const OptionKey& key, const Json& item)
     } else if (key.type == Zorvan::OptionValueType::Nested) {
         cell += " " + key.nestedClass;
     } else if (!key.spellings.empty()) {
-        std::string spellings;
-        for (const auto& spelling : key.spellings) {
-            spellings += (spellings.empty() ? "" : ", ") + spelling.text + "=" + std::to_string(spelling.number);
-        }
-        cell += " (" + spellings + ")";
+        cell += " (spelled)";
     } else if (key.type != Zorvan::OptionValueType::Text && key.cType != cell) {
         cell += " (" + key.cType + ")";
     }
@@ -149,10 +145,29 @@ void PrintDescription(const SettingsCatalogEntry& entry, const OptionDescription
         notes = true;
     }
     for (const auto& key : description.keys) {
-        if (!key.note.empty() || !key.with.empty()) {
-            std::cout << (notes ? "" : "\n") << "  " << key.key << ": " << key.note
-                      << (key.with.empty() ? "" : (key.note.empty() ? "shows with " : "; shows with ") + key.with)
-                      << '\n';
+        std::vector<std::string> parts;
+        if (!key.spellings.empty()) {
+            std::string spellings;
+            for (const auto& spelling : key.spellings) {
+                spellings += (spellings.empty() ? "" : ", ") + spelling.text + " " + std::to_string(spelling.number);
+            }
+            parts.push_back("spellings in any letter case, or their numbers: " + spellings);
+        }
+        if (!key.needs.empty()) {
+            parts.push_back("read only with " + key.needs);
+        }
+        if (key.floor) {
+            parts.push_back("a smaller accepted value is stored as " +
+                            SettingsDescriptions::NumberText(*key.floor, "double"));
+        }
+        if (!key.note.empty()) {
+            parts.push_back(key.note);
+        }
+        if (!key.with.empty()) {
+            parts.push_back("shows with " + key.with);
+        }
+        for (const auto& part : parts) {
+            std::cout << (notes ? "" : "\n") << "  " << (key.key.empty() ? "(head)" : key.key) << ": " << part << '\n';
             notes = true;
         }
     }
@@ -299,10 +314,11 @@ Subcommand AddValidateCommand(CLI::App& app)
     };
     auto state = std::make_shared<State>();
     CLI::App* command = app.add_subcommand(
-        "validate", "Read an option string the way the class does and judge every key: applied, clamped, ignored, "
-                    "out of range, refused, unreadable, unknown (with the nearest known key), repeated (only the "
-                    "first counts), excluded, incomplete. Exit 0 when every key applies, 1 otherwise, 2 for an "
-                    "unknown class or one not described yet.");
+        "validate",
+        "Read an option string the way the class does and judge every key: applied, clamped, ignored, "
+        "out of range, refused, unreadable, unknown (with the nearest known key), repeated (only the "
+        "first counts), excluded, incomplete, not read. Exit 0 when every key applies, 1 otherwise, 2 for an "
+        "unknown class or one not described yet.");
     command->add_option("CLASS", state->id, "Class identifier or class name")->required();
     command->add_option("OPTIONS", state->options, "The option string, e.g. 'scale=2.5'")->required();
     command->add_flag("--json", state->json, "JSON for programs");

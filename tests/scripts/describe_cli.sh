@@ -122,6 +122,12 @@ expect "validate: a class without an option string" 1 "" \
 'SettingsEffectBlur: not every key applies
   a=1  refused  SettingsException: Not implemented fill from string for settings CLASS_ID = EFFECT_BLUR'
 
+run validate SettingsResizer '1920x1080:custom_mode=LetterBox:size_mode=9:scale=0' --json
+expect "validate --json: the resizer's head and keys read only beside another" 1 ""
+expect_jq "validate --json: head, not read, out of range" '[.outcomes[] | [.key, .value, .status, (.detail // .description)]]' \
+  '[["","1920x1080","applied","the size head"],["custom_mode","LetterBox","not read","read only with size_mode=Custom"],'\
+'["size_mode","9","out of range","Bad size mode"],["scale","0","out of range","Custom scale have to be positive"]]'
+
 run validate NoSuchClass 'a=1'
 expect "validate: an unknown class" 2 'error: unknown class identifier or class name: NoSuchClass' ''
 run describe
