@@ -232,6 +232,10 @@ Json KeySchema(const OptionKey& key)
     if (!key.needs.empty()) {
         about += "; read only with " + key.needs;
     }
+    if (key.alwaysRefused) {
+        about += "; every value is refused";
+        schema["not"] = Json::object();
+    }
     if (key.floor) {
         about += "; a smaller accepted value is stored as " + SettingsDescriptions::NumberText(*key.floor, "double");
     }
@@ -324,6 +328,9 @@ Json SettingsDescriptions::ToJson(const SettingsCatalogEntry& entry, const Optio
             item[key.exclusiveMaximum ? "exclusiveMaximum" : "maximum"] = *key.maximum;
         }
         item["outside"] = OutsideName(key.outside);
+        if (key.alwaysRefused) {
+            item["alwaysRefused"] = FailureJson(key.failure);
+        }
         if (key.floor) {
             item["floor"] = *key.floor;
         }

@@ -51,6 +51,13 @@ struct Key : OptionKey {
         floor = lowest;
         return *this;
     }
+    // No value the reader can deliver is accepted, e.g. a word the map form cannot read unquoted.
+    Key& AlwaysRefused(std::string exceptionClass, std::string text)
+    {
+        alwaysRefused = true;
+        failure = {std::move(exceptionClass), std::move(text)};
+        return *this;
+    }
     Key& Clamps()
     {
         outside = OptionOutside::Clamps;

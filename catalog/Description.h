@@ -80,6 +80,7 @@ struct OptionKey {
     std::optional<double> maximum;
     bool exclusiveMinimum = false;
     bool exclusiveMaximum = false;
+    bool alwaysRefused = false; // every value the reader finds raises `failure`
     OptionOutside outside = OptionOutside::Unbounded;
     std::optional<double> floor;           // an accepted value below it is stored as it
     OptionFailure failure;                 // when outside is Throws

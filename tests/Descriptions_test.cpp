@@ -33,7 +33,7 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsAudioEcho",
     "SettingsAudioEqualizer",
     "SettingsAudioFlanger",
-    "SettingsAudioGate",
+
     "SettingsAudioNoiseSuppress",
     "SettingsAudioPitch",
     "SettingsAudioRadio",
@@ -364,6 +364,14 @@ void CheckKey(const Reader& reader, const OptionKey& key)
     if (key.type == OptionValueType::ColorChannel || key.type == OptionValueType::SizeHead) {
         return; // read as a group, or before any key
     }
+    if (key.alwaysRefused) {
+        for (const std::string& value : std::vector<std::string>{"1", "\"sample\"", "\"" + key.key + "\""}) {
+            const OptionFailure actual = reader.Failure(Context(key) + key.key + "=" + value);
+            EXPECT_EQ(actual.exception, key.failure.exception) << "value " << value;
+            EXPECT_EQ(actual.text, SettingsDescriptions::Expand(key.failure, key.key, value).text) << "value " << value;
+        }
+        return;
+    }
     const std::string prefix = Context(key);
     const std::string example = ExampleText(key);
     const Json expected = key.exampleResult.is_null() ? Converted(key, example) : key.exampleResult;
@@ -439,7 +447,8 @@ void CheckOrder(const Reader& reader)
     std::vector<const OptionKey*> keys;
     for (const auto& key : reader.description.keys) {
         const OptionGroup* group = GroupOf(reader.description, key.key, OptionGroupKind::FirstWins);
-        if ((group == nullptr || group->keys.front() == key.key) && key.type != OptionValueType::SizeHead) {
+        if ((group == nullptr || group->keys.front() == key.key) && key.type != OptionValueType::SizeHead &&
+            !key.alwaysRefused) {
             keys.push_back(&key);
         }
     }
