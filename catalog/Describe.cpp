@@ -31,6 +31,9 @@ Registry BuildRegistry()
     DescribeDetail::DescribeStylising(described);
     DescribeDetail::DescribeResizer(described);
     DescribeDetail::DescribeAudioDynamics(described);
+    DescribeDetail::DescribeVignette(described);
+    DescribeDetail::DescribeHalfTonePopArt(described);
+    DescribeDetail::DescribeTimeFilters(described);
 
     Registry registry;
     for (const auto& entry : SettingsCatalog::Entries()) {

@@ -151,6 +151,17 @@ inline Key Channel(std::string key, std::string field, int channel, std::uint32_
     return made;
 }
 
+// One byte of a packed colour read by the map form: any int, of which the low byte is kept.
+inline Key MapChannel(std::string key, std::string field, int channel, std::uint32_t packedDefault = 0)
+{
+    Key made = Int(std::move(key), std::move(field));
+    made.type = OptionValueType::ColorChannel;
+    made.channel = channel;
+    made.defaultValue = packedDefault;
+    made.note = "the low byte of the number";
+    return made;
+}
+
 inline OptionDescription Described(std::string className, OptionReader reader, std::vector<OptionKey> keys,
                                    std::vector<OptionGroup> groups = {}, std::string note = "")
 {
@@ -176,5 +187,8 @@ inline OptionDescription IgnoresItsString(std::string className, std::string not
 void DescribeStylising(DescriptionMap& descriptions);
 void DescribeResizer(DescriptionMap& descriptions);
 void DescribeAudioDynamics(DescriptionMap& descriptions);
+void DescribeVignette(DescriptionMap& descriptions);
+void DescribeHalfTonePopArt(DescriptionMap& descriptions);
+void DescribeTimeFilters(DescriptionMap& descriptions);
 
 } // namespace Zorvan::DescribeDetail

@@ -72,7 +72,7 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsEffectGIMPShadowsHightlights",
     "SettingsEffectGlitchMpeg",
     "SettingsEffectGlitchSecurityCam",
-    "SettingsEffectHalfTone",
+
     "SettingsEffectHumanMatting",
     "SettingsEffectImageBlender",
     "SettingsEffectInvert",
@@ -80,7 +80,7 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsEffectMagicEnhance2",
     "SettingsEffectMask",
     "SettingsEffectPad",
-    "SettingsEffectPopArt",
+
     "SettingsEffectPosterize",
     "SettingsEffectRemoveGrain",
     "SettingsEffectRetroColors",
@@ -90,11 +90,11 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsEffectShiftUV",
     "SettingsEffectTemplateZES",
     "SettingsEffectTiltShiftVEZ",
-    "SettingsEffectVignetteFilter",
+
     "SettingsFilterFPSDoubler",
     "SettingsFilterSlowMotion",
     "SettingsFilterSpeedUpVideo",
-    "SettingsFilterSpeedUp",
+
     "SettingsTransitionBarnDoor",
     "SettingsTransitionBlur",
     "SettingsTransitionCircle",
