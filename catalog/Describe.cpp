@@ -34,6 +34,7 @@ Registry BuildRegistry()
     DescribeDetail::DescribeVignette(described);
     DescribeDetail::DescribeHalfTonePopArt(described);
     DescribeDetail::DescribeTimeFilters(described);
+    DescribeDetail::DescribeCameraShakeGlitchTiltShift(described);
 
     Registry registry;
     for (const auto& entry : SettingsCatalog::Entries()) {

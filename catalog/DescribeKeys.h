@@ -190,5 +190,6 @@ void DescribeAudioDynamics(DescriptionMap& descriptions);
 void DescribeVignette(DescriptionMap& descriptions);
 void DescribeHalfTonePopArt(DescriptionMap& descriptions);
 void DescribeTimeFilters(DescriptionMap& descriptions);
+void DescribeCameraShakeGlitchTiltShift(DescriptionMap& descriptions);
 
 } // namespace Zorvan::DescribeDetail

@@ -50,7 +50,7 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsEffectAutoWhiteBalance",
     "SettingsEffectBalanceChroma",
     "SettingsEffectBokehBlur",
-    "SettingsEffectCameraShake",
+
     "SettingsEffectChannelMixer",
     "SettingsEffectChromakey",
     "SettingsEffectColorBalance",
@@ -70,8 +70,6 @@ const std::set<std::string> kNotDescribedYet = {
     "SettingsEffectGIMPColorize",
     "SettingsEffectGIMPHueSaturation",
     "SettingsEffectGIMPShadowsHightlights",
-    "SettingsEffectGlitchMpeg",
-    "SettingsEffectGlitchSecurityCam",
 
     "SettingsEffectHumanMatting",
     "SettingsEffectImageBlender",
