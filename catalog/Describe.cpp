@@ -35,6 +35,8 @@ Registry BuildRegistry()
     DescribeDetail::DescribeHalfTonePopArt(described);
     DescribeDetail::DescribeTimeFilters(described);
     DescribeDetail::DescribeCameraShakeGlitchTiltShift(described);
+    DescribeDetail::DescribeChannelMixing(described);
+    DescribeDetail::DescribeDenoise(described);
 
     Registry registry;
     for (const auto& entry : SettingsCatalog::Entries()) {

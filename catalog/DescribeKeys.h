@@ -191,5 +191,7 @@ void DescribeVignette(DescriptionMap& descriptions);
 void DescribeHalfTonePopArt(DescriptionMap& descriptions);
 void DescribeTimeFilters(DescriptionMap& descriptions);
 void DescribeCameraShakeGlitchTiltShift(DescriptionMap& descriptions);
+void DescribeChannelMixing(DescriptionMap& descriptions);
+void DescribeDenoise(DescriptionMap& descriptions);
 
 } // namespace Zorvan::DescribeDetail
