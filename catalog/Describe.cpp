@@ -37,6 +37,7 @@ Registry BuildRegistry()
     DescribeDetail::DescribeCameraShakeGlitchTiltShift(described);
     DescribeDetail::DescribeChannelMixing(described);
     DescribeDetail::DescribeDenoise(described);
+    DescribeDetail::DescribeTransitions(described);
 
     Registry registry;
     for (const auto& entry : SettingsCatalog::Entries()) {

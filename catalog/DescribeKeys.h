@@ -193,5 +193,6 @@ void DescribeTimeFilters(DescriptionMap& descriptions);
 void DescribeCameraShakeGlitchTiltShift(DescriptionMap& descriptions);
 void DescribeChannelMixing(DescriptionMap& descriptions);
 void DescribeDenoise(DescriptionMap& descriptions);
+void DescribeTransitions(DescriptionMap& descriptions);
 
 } // namespace Zorvan::DescribeDetail

@@ -37,21 +37,13 @@ const char* const kNotDescribedYet =
     "SettingsEffectGIMPHueSaturation SettingsEffectGIMPShadowsHightlights SettingsEffectHumanMatting "
     "SettingsEffectImageBlender SettingsEffectLUT SettingsEffectMagicEnhance2 SettingsEffectMask "
     "SettingsEffectPad SettingsEffectRemoveGrain SettingsEffectTemplateZES SettingsEffectTiltShiftVEZ "
-    "SettingsFilterFPSDoubler SettingsFilterSlowMotion SettingsFilterSpeedUpVideo SettingsTransitionBarnDoor "
-    "SettingsTransitionBlur SettingsTransitionCircle SettingsTransitionCross SettingsTransitionCrossfade "
-    "SettingsTransitionDisintegrate SettingsTransitionFlash SettingsTransitionGlitch "
-    "SettingsTransitionKenBurns SettingsTransitionLens SettingsTransitionMatrix "
-    "SettingsTransitionModifiedMotionSpin SettingsTransitionMotionSpin SettingsTransitionOrigamiFlips "
-    "SettingsTransitionOrigamiPleats SettingsTransitionPageturn SettingsTransitionParallax "
-    "SettingsTransitionPinwheel SettingsTransitionPixels SettingsTransitionPush SettingsTransitionPuzzle "
-    "SettingsTransitionRadial SettingsTransitionRageZoom SettingsTransitionRippleSmooth "
-    "SettingsTransitionRipple SettingsTransitionRoll SettingsTransitionScale SettingsTransitionShatter "
-    "SettingsTransitionSlice SettingsTransitionSlide SettingsTransitionSlidingDoor SettingsTransitionSmear "
-    "SettingsTransitionSnake SettingsTransitionSpin SettingsTransitionSpiral SettingsTransitionTemplateZES "
-    "SettingsTransitionThroughColor SettingsTransitionTwist SettingsTransitionWaterbrush "
+    "SettingsFilterFPSDoubler SettingsFilterSlowMotion SettingsFilterSpeedUpVideo SettingsTransitionCross "
+    "SettingsTransitionGlitch SettingsTransitionKenBurns SettingsTransitionMatrix "
+    "SettingsTransitionModifiedMotionSpin SettingsTransitionMotionSpin SettingsTransitionParallax "
+    "SettingsTransitionRageZoom SettingsTransitionRipple SettingsTransitionSlice SettingsTransitionSmear "
+    "SettingsTransitionSnake SettingsTransitionTemplateZES SettingsTransitionThroughColor "
     "SettingsTransitionWhipe SettingsTransitionWhoosh SettingsTransitionWipe SettingsTransitionWithEffects "
-    "SettingsTransitionZoomBlur SettingsTransitionZoom SettingsColorSpaceConverter SettingsDeinterlace "
-    "SettingsVideoDecoder ";
+    "SettingsTransitionZoomBlur SettingsColorSpaceConverter SettingsDeinterlace SettingsVideoDecoder ";
 
 bool NotDescribedYet(const std::string& className)
 {
