@@ -38,6 +38,7 @@ Registry BuildRegistry()
     DescribeDetail::DescribeChannelMixing(described);
     DescribeDetail::DescribeDenoise(described);
     DescribeDetail::DescribeTransitions(described);
+    DescribeDetail::DescribeColorBlending(described);
 
     Registry registry;
     for (const auto& entry : SettingsCatalog::Entries()) {

@@ -8,6 +8,9 @@ void DescribeCameraShakeGlitchTiltShift(DescriptionMap& descriptions)
     descriptions["SettingsEffectCameraShake"] = Described("SettingsEffectCameraShake", Map,
                                                           {Double("shiftx"), Double("shifty"), Double("rotate"),
                                                            Double("freq"), Double("persistence"), Float("intensity")});
+    descriptions["SettingsEffectBokehBlur"] =
+        Described("SettingsEffectBokehBlur", Map,
+                  {Double("size"), Double("exposure"), Double("hdrborder", "hdrBorder"), Float("intensity")});
     const auto intensity = [] {
         return Float("intensity")
             .Range(0, std::nullopt)

@@ -194,5 +194,6 @@ void DescribeCameraShakeGlitchTiltShift(DescriptionMap& descriptions);
 void DescribeChannelMixing(DescriptionMap& descriptions);
 void DescribeDenoise(DescriptionMap& descriptions);
 void DescribeTransitions(DescriptionMap& descriptions);
+void DescribeColorBlending(DescriptionMap& descriptions);
 
 } // namespace Zorvan::DescribeDetail
