@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
   echo '#pragma once'
   echo '// The umbrella header: every public header of the library. Written by scripts/gen-all-settings.sh.'
   for h in $(cd Proc/Settings && ls *.h | LC_ALL=C sort); do
-    case "$h" in AllSettings.h|InitOrder.h|Arithmetic.h|MapForm.h|Spellings.h|FloatRange.h|ShaderTemplate.h|IntegerKeys.h) continue ;; esac
+    case "$h" in AllSettings.h|InitOrder.h|Arithmetic.h|MapForm.h|Spellings.h|FloatRange.h|ShaderTemplate.h|IntegerKeys.h|OptionMatcher.h|RegexMachine.h) continue ;; esac
     echo "#include \"Proc/Settings/$h\""
   done
 } > Proc/Settings/AllSettings.h

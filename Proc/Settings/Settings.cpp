@@ -1,12 +1,12 @@
 #include "Proc/Settings/Settings.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <limits>
-#include <regex>
 #include <sstream>
 #include <stdexcept>
 #include <system_error>
@@ -14,17 +14,54 @@
 
 #include <fmt/format.h>
 
+#include "Proc/Settings/OptionMatcher.h"
 #include "Proc/Settings/ProcException.h"
 
 namespace Zorvan {
 
+namespace {
+
+// The C tolower of the process's C locale, fetched once per call: option maps hash and
+// compare every key byte by byte, and the engine looks keys up by the thousand.
+class CLower {
+public:
+#ifdef __GLIBC__
+    CLower()
+        : table_(*__ctype_tolower_loc())
+    {
+    }
+    char operator()(char c) const
+    {
+        return static_cast<char>(table_[static_cast<unsigned char>(c)]);
+    }
+
+private:
+    const std::int32_t* table_;
+#else
+    char operator()(char c) const
+    {
+        return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    }
+#endif
+};
+
+} // namespace
+
 std::size_t CaseInsensitiveHash::operator()(std::string_view text) const
 {
-    std::string lowered(text);
-    for (char& c : lowered) {
-        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    const CLower lower;
+    char buffer[64];
+    std::string longer;
+    char* lowered = buffer;
+    if (text.size() > sizeof buffer) {
+        longer.resize(text.size());
+        lowered = longer.data();
     }
-    return std::hash<std::string>{}(lowered);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        lowered[i] = lower(text[i]);
+    }
+    // The same value as std::hash<std::string> of the lowered text.
+    return std::hash<std::string_view>{}(std::string_view(lowered, text.size()));
 }
 
 bool CaseInsensitiveEqual::operator()(std::string_view left, std::string_view right) const
@@ -32,8 +69,9 @@ bool CaseInsensitiveEqual::operator()(std::string_view left, std::string_view ri
     if (left.size() != right.size()) {
         return false;
     }
+    const CLower lower;
     for (std::size_t i = 0; i < left.size(); ++i) {
-        if (std::tolower(static_cast<unsigned char>(left[i])) != std::tolower(static_cast<unsigned char>(right[i]))) {
+        if (left[i] != right[i] && lower(left[i]) != lower(right[i])) {
             return false;
         }
     }
@@ -149,10 +187,16 @@ bool ToNumber<unsigned int>(std::string_view text, unsigned int& value)
 
 void SplitString(std::vector<std::string>& pieces, const std::string& text, char delimiter)
 {
-    std::istringstream stream(text);
-    std::string piece;
-    while (std::getline(stream, piece, delimiter)) {
-        pieces.push_back(piece);
+    // What std::getline on a string stream gives, without the stream: every piece up to a
+    // delimiter, and the rest only when it is not empty.
+    pieces.reserve(pieces.size() + static_cast<std::size_t>(std::count(text.begin(), text.end(), delimiter)) + 1);
+    std::size_t start = 0;
+    for (std::size_t end = text.find(delimiter); end != std::string::npos; end = text.find(delimiter, start)) {
+        pieces.emplace_back(text, start, end - start);
+        start = end + 1;
+    }
+    if (start < text.size()) {
+        pieces.emplace_back(text, start);
     }
 }
 
@@ -161,32 +205,6 @@ void SplitString(std::vector<std::string>& pieces, const std::string& text, char
 namespace Zorvan::Proc {
 
 namespace {
-
-constexpr std::string_view kDefaultValuePattern = R"([^":]+|"[^"]*")";
-constexpr std::string_view kNumericValuePattern = R"([0-9\.\,\-]+|"[^"]*")";
-
-// "\b({})=({})", ECMAScript, case-insensitive; an empty value pattern selects the default.
-std::regex GetOptionRegex(std::string_view keyPattern, std::string_view valuePattern)
-{
-    const std::string_view value = valuePattern.empty() ? kDefaultValuePattern : valuePattern;
-    return std::regex(fmt::format("\\b({})=({})", keyPattern, value),
-                      std::regex_constants::ECMAScript | std::regex_constants::icase);
-}
-
-std::string_view ViewOf(std::string_view options, const std::csub_match& group)
-{
-    return options.substr(static_cast<std::size_t>(group.first - options.data()),
-                          static_cast<std::size_t>(group.length()));
-}
-
-// With the default value pattern a value that begins with a quote loses its first and last character.
-std::string_view StripQuotesIfDefault(std::string_view value, std::string_view valuePattern)
-{
-    if (valuePattern.empty() && !value.empty() && value.front() == '"') {
-        return value.size() >= 2 ? value.substr(1, value.size() - 2) : std::string_view{};
-    }
-    return value;
-}
 
 template <typename T>
 bool ConvertValue(std::string_view text, T& result)
@@ -240,52 +258,28 @@ void Settings::Deserialize(const std::string&)
 
 Settings::OptionsMap Settings::GetOptionsMap(std::string_view options, const std::vector<std::string>& keys)
 {
-    OptionsMap result;
-    if (keys.empty()) {
-        return result;
+    if (const auto* replacement = OptionMatcher::CurrentReplacement()) {
+        return replacement->getOptionsMap(options, keys);
     }
-    const std::string keyPattern = Core::Utils::ToString(keys, "|");
-    for (const auto& [key, value] : OptionsRegexSearch(options, keyPattern, kNumericValuePattern)) {
-        result.emplace(key, std::string(value));
-    }
-    return result;
+    return OptionMatcher::GetOptionsMap(options, keys);
 }
 
 Settings::OptionsViewMap Settings::OptionsRegexSearch(std::string_view options, std::string_view keys,
                                                       std::string_view valuePattern)
 {
-    OptionsViewMap result;
-    if (options.empty() || keys.empty()) {
-        return result;
+    if (const auto* replacement = OptionMatcher::CurrentReplacement()) {
+        return replacement->optionsRegexSearch(options, keys, valuePattern);
     }
-    const std::regex expression = GetOptionRegex(keys, valuePattern);
-    const char* position = options.data();
-    const char* const end = options.data() + options.size();
-    std::cmatch match;
-    while (position != end && std::regex_search(position, end, match, expression)) {
-        const std::string_view value = StripQuotesIfDefault(ViewOf(options, match[2]), valuePattern);
-        if (!value.empty()) {
-            // emplace keeps the first occurrence; keys differing in case are one key.
-            result.emplace(std::string(ViewOf(options, match[1])), value);
-        }
-        // Each search begins afresh behind the match.
-        position = match[0].second;
-    }
-    return result;
+    return OptionMatcher::OptionsRegexSearch(options, keys, valuePattern);
 }
 
 std::string_view Settings::OptionRegexSearch(std::string_view options, std::string_view key,
                                              std::string_view valuePattern)
 {
-    if (options.empty() || key.empty()) {
-        return {};
+    if (const auto* replacement = OptionMatcher::CurrentReplacement()) {
+        return replacement->optionRegexSearch(options, key, valuePattern);
     }
-    const std::regex expression = GetOptionRegex(key, valuePattern);
-    std::cmatch match;
-    if (!std::regex_search(options.data(), options.data() + options.size(), match, expression)) {
-        return {};
-    }
-    return StripQuotesIfDefault(ViewOf(options, match[2]), valuePattern);
+    return OptionMatcher::OptionRegexSearch(options, key, valuePattern);
 }
 
 template <typename T>
