@@ -2,7 +2,7 @@
 // std::regex reading of OptionsReference.h: maps, views, values and exceptions must be the
 // same, in the classic locale and in one that folds Latin-1 letters.
 //
-// CI runs a few hundred cases per locale. A long run, with any seed:
+// CI runs 250 cases per locale. A long run, with any seed:
 //   ZORVAN_OPTIONS_CASES=1000000 ZORVAN_OPTIONS_SEED=7 build/dev/tests/OptionsDifferential_test
 #include <gtest/gtest.h>
 
@@ -136,23 +136,35 @@ public:
             return Pattern(depth - 1) + "|" + Pattern(depth - 1);
         case 3:
             return Pick(std::array{"(", "(?:", "(?=", "(?!"}) + Pattern(depth - 1) + ")";
-        case 4:
-            return Pattern(depth - 1) +
-                   Pick(std::array{"*", "+", "?", "*?", "+?", "??", "{2}", "{1,2}", "{0,}", "{1,2}?", "{,1}"});
+        case 4: {
+            // Quantified pieces are never nested and never more than three, so that no
+            // backtracking of std::regex runs for ever.
+            const std::string piece = Below(2) == 0 ? Pattern(0) : "(" + Pattern(0) + Pattern(0) + ")";
+            return ++quantified_ > 3 ? piece
+                                     : piece + Pick(std::array{"*", "+", "?", "*?", "+?", "??", "{2}", "{1,2}", "{0,}",
+                                                               "{1,2}?", "{,1}"});
+        }
         default:
             return Pattern(depth - 1) + Pattern(depth - 1) + Pattern(depth - 1);
         }
     }
 
+    std::string Expression(int depth)
+    {
+        quantified_ = 0;
+        return Pattern(depth);
+    }
+
     std::string ValuePattern()
     {
-        return Below(3) == 0 ? Pattern(3)
+        return Below(3) == 0 ? Expression(3)
                              : Pick(std::array{"", "", "", R"([^":]+|"[^"]*")", R"([0-9\.\,\-]+|"[^"]*")", R"(\d+x\d+)",
                                                R"([^":]+|"[^"]*"|)"});
     }
 
 private:
     std::mt19937_64 random_;
+    int quantified_ = 0;
 };
 
 std::string Escaped(std::string_view text)
@@ -225,14 +237,14 @@ void CompareGetOption(const std::string& options, const std::string& key, const 
 
 void RunCases(std::uint64_t seed)
 {
-    const std::uint64_t count = FromEnvironment("ZORVAN_OPTIONS_CASES", 400);
+    const std::uint64_t count = FromEnvironment("ZORVAN_OPTIONS_CASES", 250);
     Generator generate(seed);
     for (std::uint64_t i = 0; i < count; ++i) {
         const std::string options = generate.Options();
         std::vector<std::string> keys(generate.Below(4));
         std::generate(keys.begin(), keys.end(), [&] { return generate.Key(); });
         const std::string keyPattern =
-            generate.Below(4) == 0 ? generate.Pattern(2) : Zorvan::Core::Utils::ToString(keys, "|");
+            generate.Below(4) == 0 ? generate.Expression(2) : Zorvan::Core::Utils::ToString(keys, "|");
         const std::string key = keys.empty() ? generate.Key() : keys.front();
         const std::string valuePattern = generate.ValuePattern();
         SCOPED_TRACE("seed " + std::to_string(seed) + " case " + std::to_string(i) + ": options '" + Escaped(options) +

@@ -189,12 +189,20 @@ public:
     }
 
     std::size_t size() const { return keys_.size(); }
-    std::string_view operator[](std::size_t k) const { return keys_[k]; }
+    std::string_view operator[](std::size_t k) const { return keys_[k].key; }
+    std::uint32_t NextOfSameLength(std::uint32_t k) const { return keys_[k].sameLength; }
+    // The spelling under which an occurrence of key k last went into a map, if any.
+    std::string_view& Added(std::size_t k) { return keys_[k].added; }
+    void ForgetAdded()
+    {
+        for (Entry& entry : keys_) {
+            entry.added = {};
+        }
+    }
 
     std::uint64_t lengths = 0; // one bit per length of the shorter keys
     std::size_t longestShort = 0;
-    std::array<std::uint32_t, kShort> firstOfLength;              // read only for the lengths in `lengths`
-    boost::container::small_vector<std::uint32_t, 16> sameLength; // the next key of the same length
+    std::array<std::uint32_t, kShort> firstOfLength; // read only for the lengths in `lengths`
     boost::container::small_vector<std::uint32_t, 4> longKeys;
     // Every key is made of word characters, and folding case keeps them so.
     bool WordsOnly() const { return wordsOnly_ && longKeys.empty(); }
@@ -203,23 +211,28 @@ private:
     void Push(std::string_view key)
     {
         const auto k = static_cast<std::uint32_t>(keys_.size());
-        keys_.push_back(key);
         const std::size_t size = key.size();
         if (size >= kShort) {
             longKeys.push_back(k);
-            sameLength.push_back(kNone);
+            keys_.push_back({key, kNone, {}});
             return;
         }
         const std::uint64_t bit = std::uint64_t{1} << size;
-        sameLength.push_back((lengths & bit) != 0 ? firstOfLength[size] : kNone);
+        keys_.push_back({key, (lengths & bit) != 0 ? firstOfLength[size] : kNone, {}});
         firstOfLength[size] = k;
         lengths |= bit;
         longestShort = std::max(longestShort, size);
     }
 
+    struct Entry {
+        std::string_view key;
+        std::uint32_t sameLength; // the next key of the same length
+        std::string_view added;
+    };
+
     const unsigned char* kind_;
     bool wordsOnly_;
-    boost::container::small_vector<std::string_view, 16> keys_;
+    boost::container::small_vector<Entry, 16> keys_;
 };
 
 struct Occurrence {
@@ -281,7 +294,7 @@ private:
             }
             const auto size = static_cast<std::size_t>(at - start);
             if (*at == '=' && size < KeySet::kShort && ((keys_.lengths >> size) & 1U) != 0) {
-                for (std::uint32_t k = keys_.firstOfLength[size]; k != KeySet::kNone; k = keys_.sameLength[k]) {
+                for (std::uint32_t k = keys_.firstOfLength[size]; k != KeySet::kNone; k = keys_.NextOfSameLength(k)) {
                     if (Equal(at, keys_[k])) {
                         if (Found(k, at, found)) {
                             return true;
@@ -342,7 +355,7 @@ private:
         }
         for (std::uint64_t candidates = boundaries & keys_.lengths; candidates != 0;) {
             const auto size = static_cast<std::size_t>(63 - __builtin_clzll(candidates));
-            for (std::uint32_t k = keys_.firstOfLength[size]; k != KeySet::kNone; k = keys_.sameLength[k]) {
+            for (std::uint32_t k = keys_.firstOfLength[size]; k != KeySet::kNone; k = keys_.NextOfSameLength(k)) {
                 if (Equal(equals, keys_[k])) {
                     return k;
                 }
@@ -432,15 +445,13 @@ private:
 // whether it added the occurrence to its map; an occurrence whose key is spelt as one added
 // before through the same key is skipped, for the map keeps the first one anyway.
 template <class Insert>
-void ForEachOccurrence(const Tables& tables, std::string_view options, const KeySet& keys, ValueKind kind,
-                       Insert&& insert)
+void ForEachOccurrence(const Tables& tables, std::string_view options, KeySet& keys, ValueKind kind, Insert&& insert)
 {
     Search search(tables, options, keys, kind);
-    boost::container::small_vector<std::string_view, 16> added(keys.size());
     const char* const end = options.data() + options.size();
     Occurrence occurrence;
     for (const char* from = options.data(); from != end && search.Next(from, occurrence); from = occurrence.end) {
-        std::string_view& spelling = added[occurrence.key];
+        std::string_view& spelling = keys.Added(occurrence.key);
         if ((spelling.data() == nullptr || spelling != occurrence.text) && insert(occurrence)) {
             spelling = occurrence.text;
         }
@@ -477,6 +488,37 @@ Settings::OptionsViewMap GeneralSearch(std::string_view options, std::string_vie
     return result;
 }
 
+// A key list of GetOptionsMap as read in one locale: copies of the keys, and their KeySet
+// unless a key is more than a literal word.
+struct KeyList {
+    const Tables* tables = nullptr;
+    std::vector<std::string> keys;
+    std::optional<KeySet> literals; // views into `keys`
+};
+
+// Each record class passes the same keys on every call, so the reading of the last few lists
+// is kept per thread and taken up again when the same keys come.
+KeyList& Remembered(const Tables& tables, const std::vector<std::string>& keys)
+{
+    thread_local std::array<KeyList, 4> lists;
+    thread_local std::size_t oldest = 0;
+    for (KeyList& list : lists) {
+        if (list.tables == &tables && list.keys == keys) {
+            return list;
+        }
+    }
+    KeyList& list = lists[oldest];
+    oldest = (oldest + 1) % lists.size();
+    list.tables = &tables;
+    list.keys = keys;
+    list.literals.emplace(tables);
+    if (!tables.usable || !std::all_of(list.keys.begin(), list.keys.end(),
+                                       [&](const std::string& key) { return list.literals->Add(key); })) {
+        list.literals.reset();
+    }
+    return list;
+}
+
 std::atomic<const Replacement*> replacement{nullptr};
 
 } // namespace
@@ -498,18 +540,17 @@ Settings::OptionsMap GetOptionsMap(std::string_view options, const std::vector<s
     if (keys.empty() || options.empty() || (keys.size() == 1 && keys.front().empty())) {
         return result;
     }
-    const Tables& tables = CurrentTables();
-    KeySet literals(tables);
-    const bool literal = tables.usable && std::all_of(keys.begin(), keys.end(),
-                                                      [&](const std::string& key) { return literals.Add(key); });
-    if (!literal) {
+    KeyList& list = Remembered(CurrentTables(), keys);
+    if (!list.literals) {
         for (const auto& [key, value] :
              GeneralSearch(options, Core::Utils::ToString(keys, "|"), kNumericValuePattern)) {
             result.emplace(key, std::string(value));
         }
         return result;
     }
-    ForEachOccurrence(tables, options, literals, ValueKind::Numeric, [&](const Occurrence& found) {
+    KeySet& literals = *list.literals;
+    literals.ForgetAdded();
+    ForEachOccurrence(*list.tables, options, literals, ValueKind::Numeric, [&](const Occurrence& found) {
         if (result.empty()) {
             result.reserve(literals.size()); // one bucket array for all the keys that may come
         }
