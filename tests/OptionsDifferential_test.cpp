@@ -98,7 +98,10 @@ public:
     // A key of the pool in a random mix of letter cases, now and then an expression.
     std::string Key()
     {
-        std::string key = Pick(std::array{"a", "ab", "b", "scale", "x-y", "level_in", "k_1", "\xC4", "q\xE4", ""});
+        // Keys of 62 and 66 bytes sit either side of the length up to which keys are indexed.
+        std::string key =
+            Below(16) == 0 ? std::string(Below(2) == 0 ? 62 : 66, 'k')
+                           : Pick(std::array{"a", "ab", "b", "scale", "x-y", "level_in", "k_1", "\xC4", "q\xE4", ""});
         for (char& c : key) {
             const auto u = static_cast<unsigned char>(c);
             if (Below(2) == 0) {

@@ -153,7 +153,7 @@ std::string_view StripQuotes(std::string_view value, bool strip)
 // follows it.
 class KeySet {
 public:
-    static constexpr std::size_t kShort = 64; // keys shorter than this are found by their length
+    static constexpr std::size_t kShort = 63; // keys shorter than this are found by their length
     static constexpr std::uint32_t kNone = ~std::uint32_t{0};
 
     explicit KeySet(const Tables& tables)
@@ -340,19 +340,17 @@ private:
         }
         const bool* const word = tables_.word.data();
         // The word boundaries within reach of the shorter keys, one bit per distance from
-        // the '=', tell which of their lengths can match at all.
+        // the '=', tell which of their lengths can match at all. Bit d of `words` says
+        // whether the byte d before the '=' is a word character; the text before `from`
+        // counts as none, for each search begins afresh.
         const std::size_t reach = std::min(keys_.longestShort, room);
-        std::uint64_t boundaries = 0;
-        bool right = word[static_cast<unsigned char>(*equals)];
-        for (std::size_t distance = 0;; ++distance) {
-            const char* start = equals - distance;
-            const bool left = start != from && word[static_cast<unsigned char>(start[-1])];
-            boundaries |= static_cast<std::uint64_t>(left != right) << distance;
-            if (distance == reach) {
-                break;
-            }
-            right = left;
+        const std::size_t last = std::min(reach + 1, room);
+        std::uint64_t words = 0;
+        for (std::size_t distance = 0; distance <= last; ++distance) {
+            const auto byte = static_cast<unsigned char>(*(equals - distance));
+            words |= static_cast<std::uint64_t>(word[byte]) << distance;
         }
+        const std::uint64_t boundaries = (words ^ (words >> 1)) & ((std::uint64_t{2} << reach) - 1);
         for (std::uint64_t candidates = boundaries & keys_.lengths; candidates != 0;) {
             const auto size = static_cast<std::size_t>(63 - __builtin_clzll(candidates));
             for (std::uint32_t k = keys_.firstOfLength[size]; k != KeySet::kNone; k = keys_.NextOfSameLength(k)) {
