@@ -338,27 +338,19 @@ private:
         if (found != keys_.size() || keys_.lengths == 0) {
             return found;
         }
-        const bool* const word = tables_.word.data();
-        // The word boundaries within reach of the shorter keys, one bit per distance from
-        // the '=', tell which of their lengths can match at all. Bit d of `words` says
-        // whether the byte d before the '=' is a word character; the text before `from`
-        // counts as none, for each search begins afresh.
-        const std::size_t reach = std::min(keys_.longestShort, room);
-        const std::size_t last = std::min(reach + 1, room);
-        std::uint64_t words = 0;
-        for (std::size_t distance = 0; distance <= last; ++distance) {
-            const auto byte = static_cast<unsigned char>(*(equals - distance));
-            words |= static_cast<std::uint64_t>(word[byte]) << distance;
-        }
-        const std::uint64_t boundaries = (words ^ (words >> 1)) & ((std::uint64_t{2} << reach) - 1);
-        for (std::uint64_t candidates = boundaries & keys_.lengths; candidates != 0;) {
+        // The lengths of the shorter keys that fit before the '=', longest first.
+        const std::uint64_t fits = room >= KeySet::kShort ? ~std::uint64_t{0} : (std::uint64_t{2} << room) - 1;
+        for (std::uint64_t candidates = keys_.lengths & fits; candidates != 0;) {
             const auto size = static_cast<std::size_t>(63 - __builtin_clzll(candidates));
+            candidates &= ~(std::uint64_t{1} << size);
+            if (!Boundary(from, equals - size)) {
+                continue;
+            }
             for (std::uint32_t k = keys_.firstOfLength[size]; k != KeySet::kNone; k = keys_.NextOfSameLength(k)) {
                 if (Equal(equals, keys_[k])) {
                     return k;
                 }
             }
-            candidates &= ~(std::uint64_t{1} << size);
         }
         return keys_.size();
     }
