@@ -56,7 +56,8 @@ struct Tables {
     // splitting the bytes between them, and on no digit matching 'x'. Every real locale
     // does; in one that does not, every pattern goes through RegexMachine.
     bool usable = false;
-    bool foldKeepsWords = false;              // a byte and its lower case are both word characters or neither
+    // '=' is no word character, and a byte and its lower case are both word characters or neither.
+    bool foldKeepsWords = false;
     std::array<unsigned char, 256> keyByte{}; // kSpecial, kBar and kNotWord bits, for reading key patterns
 };
 
@@ -83,10 +84,9 @@ std::unique_ptr<Tables> BuildTables(const std::locale& locale)
                  !(tables->digit[c] && tables->ex[c]);
     }
     tables->usable = usable;
-    tables->foldKeepsWords = true;
+    tables->foldKeepsWords = !tables->word['='];
     for (std::size_t c = 0; c < 256; ++c) {
-        tables->foldKeepsWords =
-            tables->foldKeepsWords && tables->word[c] == tables->word[tables->lower[c]] && !tables->word['='];
+        tables->foldKeepsWords = tables->foldKeepsWords && tables->word[c] == tables->word[tables->lower[c]];
         tables->keyByte[c] = static_cast<unsigned char>(tables->word[c] ? 0 : kNotWord);
     }
     for (const char c : std::string_view("^$\\.*+?()[]{}=")) {
